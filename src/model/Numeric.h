@@ -1,0 +1,52 @@
+// Numeric conventions shared by every layer: the rounding and floor of the
+// world's formulas, the fixed value of pi, 16-bit counts that refuse to wrap,
+// and the text conversions the dialogs and labels use.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace keldor {
+
+// The world's formulas use this value of pi everywhere, not the full-precision one.
+inline constexpr double Pi = 3.1415926;
+
+// Largest value a 16-bit count, index or coordinate may hold.
+inline constexpr int Int16Max = 32767;
+inline constexpr int Int16Min = -32768;
+
+// Floor, returned as a double like the formulas expect.
+double Int(double v);
+
+// Round to the nearest integer, ties to the even integer (0.5 -> 0, 1.5 -> 2,
+// 2.5 -> 2, -2.5 -> -2). NaN gives 0; values beyond the 32-bit range saturate.
+int32_t CInt(double v);
+
+// Saturating conversion into the 16-bit range.
+int16_t ClampToInt16(int64_t v);
+
+// Adds delta to a 16-bit count. Returns false and leaves the count unchanged
+// when the result would leave -32768..32767: a count never wraps.
+bool TryAddInt16(int16_t& count, int delta);
+
+// RGB colour as red + 256 green + 65536 blue, held in a double.
+double Rgb(int red, int green, int blue);
+
+// True when the text reads as a decimal number: optional surrounding spaces,
+// an optional sign, digits with at most one decimal point, at least one digit.
+bool IsNumeric(std::string_view text);
+
+// The value of a numeric text (0 for a text that is not numeric).
+double ToNumber(std::string_view text);
+
+// Decimal text of a number without a leading space: 30, 3, 0.5, -1.25.
+std::string CStr(double v);
+
+// Format with the two patterns the system uses:
+//   "#.0"  exactly one decimal, no leading zero below 1 (0.7 -> ".7", 2 -> "2.0")
+//   "#.##" up to two decimals, the point always kept (1.1 -> "1.1", 2 -> "2.")
+// Any other pattern falls back to CStr.
+std::string Format(double v, std::string_view pattern);
+
+}  // namespace keldor

@@ -1,0 +1,52 @@
+#include "model/Queries.h"
+
+#include <cmath>
+
+#include "model/Numeric.h"
+#include "model/World.h"
+
+namespace keldor {
+
+WorldPoint CellAtPoint(const World& world, double x, double y) {
+  const double cellSize = world.Settings.CellSize;
+  return {Int(x / world.ZoomX / cellSize) + 1, Int(y / world.ZoomY / cellSize) + 1};
+}
+
+bool CellHasObjectType(const World& world, std::string_view typeName, int x, int y) {
+  const Cell& cell = world.Cells(x, y);
+  for (int k = 0; k < cell.ObjectCount(); ++k) {
+    if (cell.Objects[k].TypeName == typeName) return true;
+  }
+  return false;
+}
+
+bool IsNestCell(const World& world, int x, int y) {
+  for (int i = 0; i < world.NestCount; ++i) {
+    if (world.Nests[static_cast<size_t>(i)].CellX == x && world.Nests[static_cast<size_t>(i)].CellY == y) return true;
+  }
+  return false;
+}
+
+double Min(double a, double b) { return a < b ? a : b; }
+double Max(double a, double b) { return a > b ? a : b; }
+
+double PointToSegmentDistance(const Ant& a, const Ant& b) {
+  const double dx = b.HeadX - b.RearX;
+  const double dy = b.HeadY - b.RearY;
+  const double wx = a.HeadX - b.RearX;
+  const double wy = a.HeadY - b.RearY;
+  const double c1 = dx * wx + dy * wy;
+  const double c2 = dx * dx + dy * dy;
+  if (c1 <= 0) return std::sqrt((a.HeadY - b.RearY) * (a.HeadY - b.RearY) + (a.HeadX - b.RearX) * (a.HeadX - b.RearX));
+  if (c2 <= c1) return std::sqrt((a.HeadY - b.HeadY) * (a.HeadY - b.HeadY) + (a.HeadX - b.HeadX) * (a.HeadX - b.HeadX));
+  const double t = c1 / c2;
+  const double px = b.RearX + t * dx;
+  const double py = b.RearY + t * dy;
+  return std::sqrt((a.HeadY - py) * (a.HeadY - py) + (a.HeadX - px) * (a.HeadX - px));
+}
+
+int16_t CellOfCoordinate(double v, double cellSize) {
+  return ClampToInt16(CInt(Int(v / cellSize) + 1));
+}
+
+}  // namespace keldor

@@ -1,0 +1,36 @@
+// Small questions asked of the world: which cell lies under a terrain point,
+// whether a cell holds an object of a type, whether a nest stands on a cell,
+// and how far an ant's head is from another ant's body. None changes anything.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "model/Records.h"
+
+namespace keldor {
+
+struct World;
+
+// The cell column and row under a terrain-view point, not clamped: a point
+// left of or above the world gives 0 or less, one beyond it GridX+1 or more.
+WorldPoint CellAtPoint(const World& world, double x, double y);
+
+// True when cell (x, y) holds an object whose type name equals typeName
+// exactly. The cell must lie in 0..GridX+1 by 0..GridY+1.
+bool CellHasObjectType(const World& world, std::string_view typeName, int x, int y);
+
+// True when any nest stands on cell (x, y).
+bool IsNestCell(const World& world, int x, int y);
+
+// a if a < b (a > b for Max), else b: a comparison with NaN returns b.
+double Min(double a, double b);
+double Max(double a, double b);
+
+// Distance, in world units, from a's head to the segment from b's rear to b's head.
+double PointToSegmentDistance(const Ant& a, const Ant& b);
+
+// The cell column (or row) of a world coordinate: Int(v / CellSize) + 1.
+int16_t CellOfCoordinate(double v, double cellSize);
+
+}  // namespace keldor

@@ -1,0 +1,64 @@
+#include "model/Random.h"
+
+#include <cmath>
+#include <cstring>
+
+namespace keldor {
+
+namespace {
+
+constexpr double SecondsPerDay = 86400.0;
+
+uint64_t SplitMix64(uint64_t& x) {
+  uint64_t z = (x += 0x9E3779B97F4A7C15ULL);
+  z = (z ^ (z >> 30)) * 0xBF58476D1CE4E5B9ULL;
+  z = (z ^ (z >> 27)) * 0x94D049BB133111EBULL;
+  return z ^ (z >> 31);
+}
+
+uint64_t Rotl(uint64_t x, int k) { return (x << k) | (x >> (64 - k)); }
+
+}  // namespace
+
+VirtualClock::VirtualClock(uint64_t seed) {
+  uint64_t mix = seed;
+  const uint64_t h = SplitMix64(mix);
+  // A time of day with microsecond resolution, different for every seed.
+  now_ = static_cast<double>(h % 86400000000ULL) / 1e6;
+}
+
+double VirtualClock::SecondsSinceMidnight() {
+  const double t = now_;
+  Advance(1e-6);
+  return t;
+}
+
+void VirtualClock::Advance(double seconds) {
+  now_ = std::fmod(now_ + seconds, SecondsPerDay);
+}
+
+RandomSource::RandomSource(Clock& clock) : clock_(clock) { Seed(0.0); }
+
+void RandomSource::Seed(double secondsSinceMidnight) {
+  uint64_t bits = 0;
+  std::memcpy(&bits, &secondsSinceMidnight, sizeof bits);
+  for (auto& word : state_) word = SplitMix64(bits);
+}
+
+void RandomSource::ReseedFromClock() { Seed(clock_.SecondsSinceMidnight()); }
+
+uint64_t RandomSource::Next() {
+  const uint64_t result = Rotl(state_[1] * 5, 7) * 9;
+  const uint64_t t = state_[1] << 17;
+  state_[2] ^= state_[0];
+  state_[3] ^= state_[1];
+  state_[1] ^= state_[2];
+  state_[0] ^= state_[3];
+  state_[2] ^= t;
+  state_[3] = Rotl(state_[3], 45);
+  return result;
+}
+
+double RandomSource::Rnd() { return static_cast<double>(Next() >> 11) * 0x1.0p-53; }
+
+}  // namespace keldor

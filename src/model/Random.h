@@ -1,0 +1,55 @@
+// The process's single uniform random source and the clock it is reseeded from.
+//
+// The world reseeds "from the time of day" at every tick, at New, at every
+// nest creation and in signature blending. The clock is injected: the desktop
+// program passes the real time of day, tests and batch runs a VirtualClock,
+// so that the same seed gives the same world draw for draw.
+#pragma once
+
+#include <cstdint>
+
+namespace keldor {
+
+class Clock {
+ public:
+  virtual ~Clock() = default;
+  // Seconds since midnight, with a fractional part.
+  virtual double SecondsSinceMidnight() = 0;
+};
+
+// A reproducible clock. It starts at a time of day derived from the seed and
+// advances by one microsecond on every read (so reseeds inside one tick still
+// differ, as they do on a real clock); the batch runner advances it by the
+// tick period between ticks.
+class VirtualClock : public Clock {
+ public:
+  explicit VirtualClock(uint64_t seed);
+  double SecondsSinceMidnight() override;
+  void Advance(double seconds);
+
+ private:
+  double now_;
+};
+
+// Uniform draws in [0, 1) from xoshiro256**, seeded through splitmix64.
+class RandomSource {
+ public:
+  explicit RandomSource(Clock& clock);
+
+  // Rnd: the next uniform draw in [0, 1).
+  double Rnd();
+  // Restart the generator from the clock's current time of day.
+  void ReseedFromClock();
+  // Restart the generator from a given time of day (same time, same sequence).
+  void Seed(double secondsSinceMidnight);
+
+  Clock& TheClock() { return clock_; }
+
+ private:
+  uint64_t Next();
+
+  Clock& clock_;
+  uint64_t state_[4];
+};
+
+}  // namespace keldor

@@ -1,0 +1,44 @@
+// The global settings: set to their defaults at start-up, re-read in part by
+// New, and otherwise changed only by the options dialog.
+#pragma once
+
+#include <cstdint>
+
+#include "model/Numeric.h"
+
+namespace keldor {
+
+struct WorldSettings {
+  int16_t GridX = 0;  // cell columns; 30 from start-up
+  int16_t GridY = 0;  // cell rows; 0 until New has read a grid-height text
+  double CellSize = 0;  // side of a cell, world units
+  double ScaleX = 0;    // world unit to body unit factors (10)
+  double ScaleY = 0;
+  double SpreadFoodAmount = 0;  // amount of a seeded or tool-laid pile; fixed at start-up
+  int16_t Population = 0;       // living ants in all nests
+  int16_t AntsPerNest = 0;
+  double AntSizeMm = 0;
+  int16_t AntRed = 0;
+  int16_t AntGreen = 0;
+  int16_t AntBlue = 0;
+  double AntColour = 0;
+  int16_t LifeSpan = 0;
+  int16_t FoodRate = 0;  // percent chance that a free cell gets food at New
+  int16_t FoodScentMax = 0;
+  int16_t NestScentMax = 0;
+  int16_t FoodTraceSetting = 0;  // caps the scent mark of an encounter
+  int16_t NestTraceSetting = 0;  // stored by the dialog, read by nothing
+  int16_t CurrentTool = 0;       // 0 none, 1 food, 2 wall, 3 remove ants, 4 nest
+  double ToolColour = 0;
+
+  // The most food one cell holds: a disc filling the cell, in body units squared.
+  double CellFoodCapacity() const {
+    const double r = CellSize / 2 * ScaleX;
+    return Pi * r * r;
+  }
+};
+
+// Editing tools, the values of CurrentTool.
+enum Tool : int16_t { NoTool = 0, FoodTool = 1, WallTool = 2, RemoveAntsTool = 3, NestTool = 4 };
+
+}  // namespace keldor
