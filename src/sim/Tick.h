@@ -1,0 +1,35 @@
+// The tick: the 75 ms timer event that advances the world by one step and
+// redraws both views. Phases, in order:
+//   1. set-up: reseed, clear the views, remove ants under a held pointer
+//   2. encounters (running only)
+//   3. upkeep and death (running only)
+//   4. food piles: editing, pickup, growth, spreading, emission
+//   5. the cell pass: wall reset, clamp, colour, draw, decay
+//   6-8. walls, nests and food piles drawn
+//   9. the ant pass: draw each ant, then step it (running only)
+//  10. the population limit check
+//  11. the frames of the visible area
+//  12. births (running only)
+//  13. the population and zoom labels
+//  14. the frame is shown
+#pragma once
+
+namespace keldor {
+
+struct World;
+class RandomSource;
+class TickPainter;
+class MessageBox;
+
+struct TickContext {
+  World& world;
+  RandomSource& random;
+  TickPainter& painter;
+  MessageBox& messages;  // the population-limit message
+};
+
+// Runs one tick. A call made while another tick is still running (from inside
+// the modal population-limit message) returns at once.
+void Timer1_Timer(TickContext& context);
+
+}  // namespace keldor
