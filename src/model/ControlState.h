@@ -3,6 +3,7 @@
 // values onto its widgets after every command and tick.
 #pragma once
 
+#include <array>
 #include <string>
 
 namespace keldor {
@@ -22,6 +23,10 @@ struct ControlState {
   // The tool palette: caption "v" and height 555 while collapsed, "^" while expanded.
   std::string PickActionCaption = "v";
   int ActionsHeight = CollapsedPaletteHeight;
+  // Tops of the five tool buttons (twips); the selected tool sits in the top slot.
+  std::array<int, 5> ActionTops = {135, 585, 990, 1395, 1800};
+  // Pointer over the terrain: arrow with no tool, cross-hair with any tool.
+  bool CrossHairPointer = false;
   // Panels of the window layout.
   bool ButtonBarVisible = true;
   bool InfoVisible = true;
