@@ -1,0 +1,94 @@
+#include "sim/FoodPiles.h"
+
+#include <cmath>
+
+#include "model/Numeric.h"
+#include "model/Queries.h"
+#include "model/Random.h"
+#include "model/World.h"
+#include "sim/Editing.h"
+
+namespace keldor {
+namespace {
+
+// Living ants whose head lies on the pile's disc take a bite each.
+void FeedAnts(World& world, FoodPile& pile, Cell& cell) {
+  const WorldSettings& s = world.Settings;
+  const double centreX = ((pile.X - 1) * s.CellSize + s.CellSize / 2) * s.ScaleX;
+  const double centreY = ((pile.Y - 1) * s.CellSize + s.CellSize / 2) * s.ScaleY;
+  for (int n = 0; n < world.NestCount; ++n) {
+    Nest& nest = world.Nests[static_cast<size_t>(n)];
+    for (Ant& ant : nest.Ants) {
+      if (!(ant.Energy > 0)) continue;
+      const double radius = std::sqrt(pile.Amount / Pi);
+      const double dx = centreX - s.ScaleX * ant.HeadX;
+      const double dy = centreY - s.ScaleY * ant.HeadY;
+      if (!(radius >= std::sqrt(dx * dx + dy * dy) && ant.Load < nest.AntUnit)) continue;
+      if (pile.Amount > nest.AntUnit) {
+        ant.Load += nest.AntUnit;
+        pile.Amount -= nest.AntUnit;
+      } else {
+        ant.Load += pile.Amount;
+        pile.Amount = 0;
+      }
+      cell.Food = pile.Amount;
+    }
+  }
+}
+
+// -1 or +1 with one draw, then 0 or 1 with another: an offset of -1, 0 or +1.
+double RandomOffset(RandomSource& random) {
+  const double sign = Int(2 * random.Rnd()) == 0 ? -1.0 : 1.0;
+  return sign * Int(2 * random.Rnd());
+}
+
+// A full pile seeds a small pile on a free neighbouring cell.
+void Spread(World& world, RandomSource& random, int pileIndex) {
+  const FoodPile source = world.FoodPiles[pileIndex];
+  const int nx = CInt(RandomOffset(random) + source.X);
+  const int ny = CInt(RandomOffset(random) + source.Y);
+  const WorldSettings& s = world.Settings;
+  if (nx < 1 || nx > s.GridX || ny < 1 || ny > s.GridY) return;
+  Cell& target = world.Cells(nx, ny);
+  if (target.Food != 0 || target.AntCount != 0 || source.SpreadBudget <= 0) return;
+  if (nx == source.X && ny == source.Y) return;
+  FoodPile* seeded = AppendFoodPile(world, random, static_cast<int16_t>(nx), static_cast<int16_t>(ny),
+                                    s.SpreadFoodAmount);
+  if (seeded == nullptr) return;
+  target.Food = seeded->Amount;
+  --world.FoodPiles[pileIndex].SpreadBudget;
+}
+
+}  // namespace
+
+void FoodPileUpdate(World& world, RandomSource& random) {
+  const double capacity = world.Settings.CellFoodCapacity();
+  for (int j = 0; j <= world.FoodPileCount() - 1; ++j) {
+    if (world.Settings.CurrentTool == 1 && world.MouseHeld) AdjustFoodAtCursor(world, j);
+    FoodPile& pile = world.FoodPiles[j];
+    Cell& cell = world.Cells(pile.X, pile.Y);
+    const bool walled = CellHasObjectType(world, PlasterBrickType, pile.X, pile.Y);
+    if (world.Running && !walled) FeedAnts(world, pile, cell);
+    pile.Amount = cell.Food;
+    if (pile.Amount == 0) {
+      cell.Food = 0;
+      world.FoodPiles.Remove(j);
+      --j;
+      continue;
+    }
+    if (world.Running && !walled) {
+      pile.Amount += capacity / 5000;
+      if (capacity <= pile.Amount) {
+        pile.Amount = capacity;
+        Spread(world, random, j);
+      }
+    }
+    // Spreading may have grown the list: look the pile up again.
+    FoodPile& current = world.FoodPiles[j];
+    cell.Food = current.Amount;
+    const double emission = Int(world.Settings.FoodScentMax * cell.Food / capacity);
+    if (current.Amount > 0 && emission > std::abs(cell.Scent)) cell.Scent = emission;
+  }
+}
+
+}  // namespace keldor
