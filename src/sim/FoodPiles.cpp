@@ -1,38 +1,51 @@
 #include "sim/FoodPiles.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "model/Numeric.h"
 #include "model/Queries.h"
 #include "model/Random.h"
 #include "model/World.h"
+#include "sim/AntIndex.h"
 #include "sim/Editing.h"
 
 namespace keldor {
 namespace {
 
-// Living ants whose head lies on the pile's disc take a bite each.
-void FeedAnts(World& world, FoodPile& pile, Cell& cell) {
+// A living ant whose head lies on the pile's disc takes a bite.
+void Bite(const WorldSettings& s, FoodPile& pile, Cell& cell, const Nest& nest, Ant& ant) {
+  if (!(ant.Energy > 0)) return;
+  const double radius = std::sqrt(pile.Amount / Pi);
+  const double dx = ((pile.X - 1) * s.CellSize + s.CellSize / 2) * s.ScaleX - s.ScaleX * ant.HeadX;
+  const double dy = ((pile.Y - 1) * s.CellSize + s.CellSize / 2) * s.ScaleY - s.ScaleY * ant.HeadY;
+  if (!(radius >= std::sqrt(dx * dx + dy * dy) && ant.Load < nest.AntUnit)) return;
+  if (pile.Amount > nest.AntUnit) {
+    ant.Load += nest.AntUnit;
+    pile.Amount -= nest.AntUnit;
+  } else {
+    ant.Load += pile.Amount;
+    pile.Amount = 0;
+  }
+  cell.Food = pile.Amount;
+}
+
+void FeedAnts(World& world, AntIndex* index, FoodPile& pile, Cell& cell) {
   const WorldSettings& s = world.Settings;
-  const double centreX = ((pile.X - 1) * s.CellSize + s.CellSize / 2) * s.ScaleX;
-  const double centreY = ((pile.Y - 1) * s.CellSize + s.CellSize / 2) * s.ScaleY;
-  for (int n = 0; n < world.NestCount; ++n) {
-    Nest& nest = world.Nests[static_cast<size_t>(n)];
-    for (Ant& ant : nest.Ants) {
-      if (!(ant.Energy > 0)) continue;
-      const double radius = std::sqrt(pile.Amount / Pi);
-      const double dx = centreX - s.ScaleX * ant.HeadX;
-      const double dy = centreY - s.ScaleY * ant.HeadY;
-      if (!(radius >= std::sqrt(dx * dx + dy * dy) && ant.Load < nest.AntUnit)) continue;
-      if (pile.Amount > nest.AntUnit) {
-        ant.Load += nest.AntUnit;
-        pile.Amount -= nest.AntUnit;
-      } else {
-        ant.Load += pile.Amount;
-        pile.Amount = 0;
-      }
-      cell.Food = pile.Amount;
+  if (index == nullptr) {
+    for (int n = 0; n < world.NestCount; ++n) {
+      Nest& nest = world.Nests[static_cast<size_t>(n)];
+      for (Ant& ant : nest.Ants) Bite(s, pile, cell, nest, ant);
     }
+    return;
+  }
+  // The disc only shrinks during the pass: its radius now bounds every bite.
+  const double reach = std::sqrt(pile.Amount / Pi) / std::min(s.ScaleX, s.ScaleY);
+  const double centreX = (pile.X - 1) * s.CellSize + s.CellSize / 2;
+  const double centreY = (pile.Y - 1) * s.CellSize + s.CellSize / 2;
+  for (const AntRef& ref : index->Near(centreX, centreY, reach)) {
+    Nest& nest = world.Nests[static_cast<size_t>(ref.Nest)];
+    Bite(s, pile, cell, nest, nest.Ants[ref.Ant]);
   }
 }
 
@@ -61,14 +74,14 @@ void Spread(World& world, RandomSource& random, int pileIndex) {
 
 }  // namespace
 
-void FoodPileUpdate(World& world, RandomSource& random) {
+void FoodPileUpdate(World& world, RandomSource& random, AntIndex* index) {
   const double capacity = world.Settings.CellFoodCapacity();
   for (int j = 0; j <= world.FoodPileCount() - 1; ++j) {
     if (world.Settings.CurrentTool == 1 && world.MouseHeld) AdjustFoodAtCursor(world, j);
     FoodPile& pile = world.FoodPiles[j];
     Cell& cell = world.Cells(pile.X, pile.Y);
     const bool walled = CellHasObjectType(world, PlasterBrickType, pile.X, pile.Y);
-    if (world.Running && !walled) FeedAnts(world, pile, cell);
+    if (world.Running && !walled) FeedAnts(world, index, pile, cell);
     pile.Amount = cell.Food;
     if (pile.Amount == 0) {
       cell.Food = 0;

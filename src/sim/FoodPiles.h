@@ -6,7 +6,9 @@ namespace keldor {
 
 struct World;
 class RandomSource;
+class AntIndex;
 
-void FoodPileUpdate(World& world, RandomSource& random);
+// With an index, each pile tests only the ants near it, in the same order.
+void FoodPileUpdate(World& world, RandomSource& random, AntIndex* index);
 
 }  // namespace keldor

@@ -3,6 +3,7 @@
 #include "model/Numeric.h"
 #include "model/Random.h"
 #include "model/World.h"
+#include "sim/AntIndex.h"
 #include "sim/AntStep.h"
 #include "sim/Births.h"
 #include "sim/Editing.h"
@@ -55,9 +56,22 @@ void Timer1_Timer(TickContext& context) {
   painter.ClearViews(world);
   if (world.Settings.CurrentTool == 3 && world.MouseHeld) RemoveAntsAtCursor(world, random);
 
-  ResolveEncounters(world);
+  // No ant moves before the ant pass, but upkeep renumbers ants as it
+  // removes bodies: the pile pass gets an index of its own.
+  const bool indexed = world.Running && context.UseAntIndex;
+  if (indexed) {
+    AntIndex index(world);
+    ResolveEncounters(world, &index);
+  } else {
+    ResolveEncounters(world, nullptr);
+  }
   AntUpkeep(world);
-  FoodPileUpdate(world, random);
+  if (indexed) {
+    AntIndex index(world);
+    FoodPileUpdate(world, random, &index);
+  } else {
+    FoodPileUpdate(world, random, nullptr);
+  }
   CellUpdate(world, painter);
   painter.DrawWalls(world);
   painter.DrawNests(world);
