@@ -25,7 +25,7 @@ AntIndex::AntIndex(const World& world)
 
 int AntIndex::Clamp(int v, int high) const { return std::clamp(v, 0, high - 1); }
 
-const std::vector<AntRef>& AntIndex::Near(double worldX, double worldY, double reach) {
+const std::vector<AntRef>& AntIndex::Near(double worldX, double worldY, double reach, int skipNest) {
   // One extra cell each way absorbs rounding at the cell borders.
   const int x0 = Clamp(static_cast<int>(std::floor((worldX - reach) / cellSize_)) - 1, columns_);
   const int x1 = Clamp(static_cast<int>(std::floor((worldX + reach) / cellSize_)) + 1, columns_);
@@ -35,7 +35,9 @@ const std::vector<AntRef>& AntIndex::Near(double worldX, double worldY, double r
   for (int x = x0; x <= x1; ++x) {
     for (int y = y0; y <= y1; ++y) {
       const auto& bucket = buckets_[static_cast<size_t>(x) * static_cast<size_t>(rows_) + static_cast<size_t>(y)];
-      found_.insert(found_.end(), bucket.begin(), bucket.end());
+      for (const AntRef& ref : bucket) {
+        if (ref.Nest != skipNest) found_.push_back(ref);
+      }
     }
   }
   std::sort(found_.begin(), found_.end());

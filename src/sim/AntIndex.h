@@ -24,8 +24,9 @@ class AntIndex {
   // Buckets every living ant; valid while no ant moves, is born or is removed.
   explicit AntIndex(const World& world);
 
-  // Ants whose head cell lies within span cells of (x, y), in scan order.
-  const std::vector<AntRef>& Near(double worldX, double worldY, double reach);
+  // Ants whose head cell lies within reach (world units, plus one cell) of
+  // (x, y), in scan order, leaving out the ants of nest skipNest.
+  const std::vector<AntRef>& Near(double worldX, double worldY, double reach, int skipNest = -1);
 
  private:
   int Clamp(int v, int high) const;

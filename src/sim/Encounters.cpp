@@ -54,7 +54,7 @@ void ResolveNearbyEncounter(World& world, AntIndex& index, const ReachBound& bou
   const Nest& nest = world.Nests[static_cast<size_t>(nestIndex)];
   const Ant& biter = nest.Ants[antIndex];
   const double reach = (ReachShare(biter, antIndex) + bound.Length / 5) / 2 / world.Settings.ScaleX + bound.Span;
-  const std::vector<AntRef>& near = index.Near(biter.HeadX, biter.HeadY, reach);
+  const std::vector<AntRef>& near = index.Near(biter.HeadX, biter.HeadY, reach, nestIndex);
   size_t next = 0;
   for (int m = 0; m < world.NestCount; ++m) {
     Nest& other = world.Nests[static_cast<size_t>(m)];
