@@ -35,9 +35,11 @@ const std::vector<AntRef>& AntIndex::Near(double worldX, double worldY, double r
   for (int x = x0; x <= x1; ++x) {
     for (int y = y0; y <= y1; ++y) {
       const auto& bucket = buckets_[static_cast<size_t>(x) * static_cast<size_t>(rows_) + static_cast<size_t>(y)];
-      for (const AntRef& ref : bucket) {
-        if (ref.Nest != skipNest) found_.push_back(ref);
-      }
+      // A bucket is in nest order: the skipped nest is one run within it.
+      const auto skipBegin = std::lower_bound(bucket.begin(), bucket.end(), AntRef{static_cast<int16_t>(skipNest), 0});
+      const auto skipEnd = std::lower_bound(skipBegin, bucket.end(), AntRef{static_cast<int16_t>(skipNest + 1), 0});
+      found_.insert(found_.end(), bucket.begin(), skipBegin);
+      found_.insert(found_.end(), skipEnd, bucket.end());
     }
   }
   std::sort(found_.begin(), found_.end());
