@@ -20,7 +20,7 @@ Sprite DrawDisc(const DiscKey& key) {
   // The anchor pixel's centre is the disc's centre.
   painter.drawEllipse(QPointF(half + 0.5, half + 0.5), radius, radius);
   painter.end();
-  return Sprite::FromImage(image, half, half);
+  return Sprite(image, half, half);
 }
 
 }  // namespace

@@ -25,6 +25,7 @@ void QtCanvas::Resize(int width, int height) {
   image_ = QImage(std::max(1, static_cast<int>(std::lround(width * devicePixelRatio_))),
                   std::max(1, static_cast<int>(std::lround(height * devicePixelRatio_))), QImage::Format_RGB32);
   image_.fill(Background);
+  TakeBuffer();
   SetScale({scale_.Left, scale_.Top, width * TwipsPerPixel, height * TwipsPerPixel});
 }
 
@@ -40,50 +41,64 @@ void QtCanvas::SetScale(const ViewScale& scale) {
   pixelsPerUnitY_ = scale.Height != 0 ? image_.height() / scale.Height : 0;
 }
 
-void QtCanvas::Cls() { image_.fill(Background); }
+void QtCanvas::TakeBuffer() {
+  buffer_.Pixels = reinterpret_cast<uint32_t*>(image_.bits());
+  buffer_.PixelsPerRow = image_.bytesPerLine() / static_cast<qsizetype>(sizeof(uint32_t));
+  buffer_.Width = image_.width();
+  buffer_.Height = image_.height();
+}
+
+void QtCanvas::Cls() {
+  TakeBuffer();
+  std::fill(buffer_.Pixels, buffer_.Pixels + buffer_.PixelsPerRow * buffer_.Height, Background);
+}
 
 int QtCanvas::LineWidthPixels() const {
   return std::max(1, static_cast<int>(std::lround(Pen.DrawWidth * devicePixelRatio_)));
 }
 
-void QtCanvas::FillPixels(double x0, double y0, double x1, double y1, QRgb colour) {
-  const int left = std::max(0, ToPixelIndex(std::min(x0, x1)));
-  const int right = std::min(image_.width() - 1, ToPixelIndex(std::max(x0, x1)));
-  const int top = std::max(0, ToPixelIndex(std::min(y0, y1)));
-  const int bottom = std::min(image_.height() - 1, ToPixelIndex(std::max(y0, y1)));
-  if (left > right || top > bottom) return;
-  uchar* bits = image_.bits();
-  const qsizetype stride = image_.bytesPerLine();
+void QtCanvas::FillPixels(int left, int top, int right, int bottom, QRgb colour) {
+  left = std::max(left, 0);
+  top = std::max(top, 0);
+  right = std::min(right, image_.width() - 1);
+  bottom = std::min(bottom, image_.height() - 1);
+  if (left > right) return;
   const uint32_t value = colour | 0xff000000u;
   for (int y = top; y <= bottom; ++y) {
-    auto* row = reinterpret_cast<uint32_t*>(bits + y * stride);
+    uint32_t* row = buffer_.Pixels + y * buffer_.PixelsPerRow;
     std::fill(row + left, row + right + 1, value);
   }
 }
 
 void QtCanvas::Box(double x1, double y1, double x2, double y2, double colour) {
-  const double left = std::min(PixelX(x1), PixelX(x2));
-  const double right = std::max(PixelX(x1), PixelX(x2));
-  const double top = std::min(PixelY(y1), PixelY(y2));
-  const double bottom = std::max(PixelY(y1), PixelY(y2));
-  if (right < -0.5 || bottom < -0.5 || left > image_.width() || top > image_.height()) return;
-  if (Pen.Fill == FillStyle::Solid) FillPixels(left, top, right, bottom, ToQRgb(Pen.FillColor));
+  const int left = ToPixelIndex(std::min(PixelX(x1), PixelX(x2)));
+  const int right = ToPixelIndex(std::max(PixelX(x1), PixelX(x2)));
+  const int top = ToPixelIndex(std::min(PixelY(y1), PixelY(y2)));
+  const int bottom = ToPixelIndex(std::max(PixelY(y1), PixelY(y2)));
+  if (right < 0 || bottom < 0 || left >= image_.width() || top >= image_.height()) return;
+  const int width = LineWidthPixels();
   const QRgb outline = ToQRgb(colour);
-  const int width = LineWidthPixels() - 1;
-  FillPixels(left, top, right, top + width, outline);
-  FillPixels(left, bottom - width, right, bottom, outline);
-  FillPixels(left, top, left + width, bottom, outline);
-  FillPixels(right - width, top, right, bottom, outline);
+  if (right - left < 2 * width || bottom - top < 2 * width) {  // all outline
+    FillPixels(left, top, right, bottom, outline);
+    return;
+  }
+  if (Pen.Fill == FillStyle::Solid) {
+    FillPixels(left + width, top + width, right - width, bottom - width, ToQRgb(Pen.FillColor));
+  }
+  FillPixels(left, top, right, top + width - 1, outline);
+  FillPixels(left, bottom - width + 1, right, bottom, outline);
+  FillPixels(left, top + width, left + width - 1, bottom - width, outline);
+  FillPixels(right - width + 1, top + width, right, bottom - width, outline);
 }
 
 void QtCanvas::Line(double x1, double y1, double x2, double y2, double colour) {
   const QRgb rgb = ToQRgb(colour);
   const double px1 = PixelX(x1), py1 = PixelY(y1), px2 = PixelX(x2), py2 = PixelY(y2);
   const int width = LineWidthPixels() - 1;
-  if (py1 == py2) {
-    FillPixels(px1, py1, px2, py1 + width, rgb);
-  } else if (px1 == px2) {
-    FillPixels(px1, py1, px1 + width, py2, rgb);
+  if (py1 == py2 || px1 == px2) {
+    const int left = ToPixelIndex(std::min(px1, px2)), right = ToPixelIndex(std::max(px1, px2));
+    const int top = ToPixelIndex(std::min(py1, py2)), bottom = ToPixelIndex(std::max(py1, py2));
+    FillPixels(left, top, right + (px1 == px2 ? width : 0), bottom + (py1 == py2 ? width : 0), rgb);
   } else {
     PaintSlantedLine(px1, py1, px2, py2, rgb);
   }
@@ -97,6 +112,8 @@ void QtCanvas::PaintSlantedLine(double x1, double y1, double x2, double y2, QRgb
   QPainter painter(&image_);
   painter.setPen(QPen(QColor(colour), LineWidthPixels()));
   painter.drawLine(QPointF(x1, y1), QPointF(x2, y2));
+  painter.end();
+  TakeBuffer();
 }
 
 void QtCanvas::Circle(double x, double y, double radius, double colour) {
@@ -112,7 +129,7 @@ void QtCanvas::Circle(double x, double y, double radius, double colour) {
   }
   const DiscKey key{static_cast<int>(std::lround(r * 4)), LineWidthPixels(), Pen.Fill == FillStyle::Solid,
                     ToQRgb(Pen.FillColor), outline};
-  discs_.Get(key).BlendOnto(image_, ToPixelIndex(cx - 0.5), ToPixelIndex(cy - 0.5));
+  discs_.Get(key).BlendOnto(buffer_, ToPixelIndex(cx - 0.5), ToPixelIndex(cy - 0.5));
 }
 
 void QtCanvas::PaintLargeCircle(double cx, double cy, double radius, QRgb outline) {
@@ -121,6 +138,8 @@ void QtCanvas::PaintLargeCircle(double cx, double cy, double radius, QRgb outlin
   painter.setPen(QPen(QColor(outline), LineWidthPixels()));
   painter.setBrush(Pen.Fill == FillStyle::Solid ? QBrush(QColor(ToQRgb(Pen.FillColor))) : Qt::NoBrush);
   painter.drawEllipse(QPointF(cx, cy), radius, radius);
+  painter.end();
+  TakeBuffer();
 }
 
 void QtCanvas::Print(std::string_view text) {
@@ -129,7 +148,7 @@ void QtCanvas::Print(std::string_view text) {
   const int y = ToPixelIndex(PixelY(Pen.CurrentY));
   if (x >= image_.width() || y >= image_.height()) return;
   const int pixelSize = static_cast<int>(std::lround(Pen.FontSize * TwipsPerPoint / TwipsPerPixel * devicePixelRatio_));
-  texts_.Get(text, ToQRgb(Pen.ForeColor), pixelSize).BlendOnto(image_, x, y);
+  texts_.Get(text, ToQRgb(Pen.ForeColor), pixelSize).BlendOnto(buffer_, x, y);
 }
 
 }  // namespace keldor

@@ -10,6 +10,7 @@
 
 #include <QImage>
 #include <QRgb>
+#include <cstdint>
 
 #include "platform/DiscSprites.h"
 #include "platform/TextSprites.h"
@@ -45,12 +46,16 @@ class QtCanvas : public Canvas {
   double PixelX(double x) const { return (x - scale_.Left) * pixelsPerUnitX_; }
   double PixelY(double y) const { return (y - scale_.Top) * pixelsPerUnitY_; }
   int LineWidthPixels() const;
-  // Fills the pixel rectangle x0..x1 by y0..y1 (inclusive), clipped to the image.
-  void FillPixels(double x0, double y0, double x1, double y1, QRgb colour);
+  // Points the direct pixel writes at the image's buffer (after it may have
+  // been reallocated or detached from a copy).
+  void TakeBuffer();
+  // Fills pixel columns left..right of rows top..bottom (inclusive), clipped.
+  void FillPixels(int left, int top, int right, int bottom, QRgb colour);
   void PaintLargeCircle(double cx, double cy, double radius, QRgb outline);
   void PaintSlantedLine(double x1, double y1, double x2, double y2, QRgb colour);
 
   QImage image_;
+  PixelBuffer buffer_;
   double devicePixelRatio_;
   ViewScale scale_;
   double pixelsPerUnitX_ = 1;

@@ -2,7 +2,6 @@
 
 #include <QImage>
 #include <algorithm>
-#include <cstring>
 
 namespace keldor {
 
@@ -21,41 +20,41 @@ inline uint32_t ByteMul(uint32_t x, uint32_t a) {
 
 }  // namespace
 
-Sprite Sprite::FromImage(const QImage& image, int anchorX, int anchorY) {
+Sprite::Sprite(const QImage& image, int anchorX, int anchorY)
+    : width_(image.width()), height_(image.height()), anchorX_(anchorX), anchorY_(anchorY) {
   const QImage argb = image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
-  Sprite sprite;
-  sprite.Width = argb.width();
-  sprite.Height = argb.height();
-  sprite.AnchorX = anchorX;
-  sprite.AnchorY = anchorY;
-  sprite.Pixels.resize(static_cast<size_t>(sprite.Width) * static_cast<size_t>(sprite.Height));
-  for (int y = 0; y < sprite.Height; ++y) {
-    std::memcpy(&sprite.Pixels[static_cast<size_t>(y) * static_cast<size_t>(sprite.Width)], argb.constScanLine(y),
-                static_cast<size_t>(sprite.Width) * sizeof(uint32_t));
+  for (int y = 0; y < height_; ++y) {
+    const auto* row = reinterpret_cast<const uint32_t*>(argb.constScanLine(y));
+    int first = 0;
+    while (first < width_ && (row[first] >> 24) == 0) ++first;
+    int last = width_ - 1;
+    while (last >= first && (row[last] >> 24) == 0) --last;
+    if (first > last) continue;
+    spans_.push_back({y, first, last - first + 1, static_cast<uint32_t>(pixels_.size())});
+    pixels_.insert(pixels_.end(), row + first, row + last + 1);
   }
-  return sprite;
 }
 
-void Sprite::BlendOnto(QImage& target, int x, int y) const {
-  const int left = x - AnchorX;
-  const int top = y - AnchorY;
-  const int x0 = std::max(0, -left);
-  const int y0 = std::max(0, -top);
-  const int x1 = std::min(Width, target.width() - left);
-  const int y1 = std::min(Height, target.height() - top);
-  if (x0 >= x1 || y0 >= y1) return;
-  uchar* bits = target.bits();
-  const qsizetype stride = target.bytesPerLine();
-  for (int sy = y0; sy < y1; ++sy) {
-    auto* dst = reinterpret_cast<uint32_t*>(bits + (top + sy) * stride) + left;
-    const uint32_t* src = &Pixels[static_cast<size_t>(sy) * static_cast<size_t>(Width)];
-    for (int sx = x0; sx < x1; ++sx) {
-      const uint32_t s = src[sx];
+void Sprite::BlendOnto(const PixelBuffer& target, int x, int y) const {
+  const int left = x - anchorX_;
+  const int top = y - anchorY_;
+  const int targetWidth = target.Width;
+  const int targetHeight = target.Height;
+  if (left >= targetWidth || top >= targetHeight || left + width_ <= 0 || top + height_ <= 0) return;
+  for (const Span& span : spans_) {
+    const int ty = top + span.Y;
+    if (ty < 0 || ty >= targetHeight) continue;
+    const int from = std::max(0, -(left + span.X));
+    const int to = std::min(span.Length, targetWidth - (left + span.X));
+    uint32_t* dst = target.Pixels + ty * target.PixelsPerRow + left + span.X;
+    const uint32_t* src = &pixels_[span.First];
+    for (int i = from; i < to; ++i) {
+      const uint32_t s = src[i];
       const uint32_t alpha = s >> 24;
       if (alpha == 255) {
-        dst[sx] = s;
+        dst[i] = s;
       } else if (alpha != 0) {
-        dst[sx] = (s + ByteMul(dst[sx], 255 - alpha)) | 0xff000000u;
+        dst[i] = (s + ByteMul(dst[i], 255 - alpha)) | 0xff000000u;
       }
     }
   }

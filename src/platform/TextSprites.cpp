@@ -1,5 +1,6 @@
 #include "platform/TextSprites.h"
 
+#include <QFont>
 #include <QFontMetrics>
 #include <QImage>
 #include <QPainter>
@@ -22,21 +23,26 @@ Sprite DrawText(std::string_view text, QRgb colour, int pixelSize) {
   painter.setPen(QColor(colour));
   painter.drawText(0, metrics.ascent(), string);
   painter.end();
-  return Sprite::FromImage(image, 0, 0);
+  return Sprite(image, 0, 0);
 }
 
 }  // namespace
 
 const Sprite& TextSprites::Get(std::string_view text, QRgb colour, int pixelSize) {
+  const uint64_t styleKey = static_cast<uint64_t>(colour & 0xffffff) << 32 | static_cast<uint32_t>(pixelSize);
+  if (style_ == nullptr || styleKey != styleKey_) {
+    style_ = &styles_[styleKey];
+    styleKey_ = styleKey;
+  }
   key_.assign(text);
-  key_.push_back('\0');
-  key_.append(std::to_string(colour));
-  key_.push_back('/');
-  key_.append(std::to_string(pixelSize));
-  auto found = sprites_.find(key_);
-  if (found != sprites_.end()) return found->second;
-  if (sprites_.size() >= MaxEntries) sprites_.clear();
-  return sprites_.emplace(key_, DrawText(text, colour, pixelSize)).first->second;
+  auto found = style_->find(key_);
+  if (found != style_->end()) return found->second;
+  if (entries_ >= MaxEntries) {
+    for (auto& [key, sprites] : styles_) sprites.clear();
+    entries_ = 0;
+  }
+  ++entries_;
+  return style_->emplace(key_, DrawText(text, colour, pixelSize)).first->second;
 }
 
 }  // namespace keldor

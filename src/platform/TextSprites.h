@@ -3,8 +3,8 @@
 // so each is laid out and rasterised once.
 #pragma once
 
-#include <QFont>
 #include <QRgb>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -19,8 +19,14 @@ class TextSprites {
   const Sprite& Get(std::string_view text, QRgb colour, int pixelSize);
 
  private:
+  using TextMap = std::unordered_map<std::string, Sprite>;
   static constexpr size_t MaxEntries = 8192;
-  std::unordered_map<std::string, Sprite> sprites_;
+
+  // One map per colour and size; the last one used is kept at hand.
+  std::unordered_map<uint64_t, TextMap> styles_;
+  TextMap* style_ = nullptr;
+  uint64_t styleKey_ = 0;
+  size_t entries_ = 0;
   std::string key_;  // reused to look up without allocating
 };
 
