@@ -14,7 +14,6 @@ Sprite DrawDisc(const DiscKey& key) {
   QImage image(2 * half + 1, 2 * half + 1, QImage::Format_ARGB32_Premultiplied);
   image.fill(Qt::transparent);
   QPainter painter(&image);
-  painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(QPen(QColor(key.Outline), key.LineWidth));
   painter.setBrush(key.Filled ? QBrush(QColor(key.Fill)) : Qt::NoBrush);
   // The anchor pixel's centre is the disc's centre.

@@ -1,8 +1,8 @@
-// A small premultiplied-ARGB picture that the Qt canvas blends onto its image
-// many times per frame: a cached disc or a cached printed number. Only the
-// inked part of each row is kept (digits are mostly empty space), and the
-// blending is done by hand, which is far cheaper than a QPainter call per ant
-// circle and per number.
+// A small picture that the Qt canvas stamps onto its image many times per
+// frame: a cached disc or a cached printed number. Sprites are drawn without
+// anti-aliasing, so a pixel is either inked or empty; only the runs of inked
+// pixels are kept (digits are mostly empty space) and stamping is a handful
+// of short copies, far cheaper than a QPainter call per circle and per number.
 #pragma once
 
 #include <cstddef>
@@ -24,20 +24,20 @@ struct PixelBuffer {
 class Sprite {
  public:
   Sprite() = default;
-  // The inked pixels of an image (any format); (anchorX, anchorY) is the
-  // pixel that BlendOnto places on its target point.
+  // The inked pixels (alpha at least one half) of an image in any format;
+  // (anchorX, anchorY) is the pixel that StampOnto places on its target point.
   Sprite(const QImage& image, int anchorX, int anchorY);
 
-  // Blends the sprite over the pixels so that its anchor lands on pixel
-  // (x, y); parts outside the buffer are clipped.
-  void BlendOnto(const PixelBuffer& target, int x, int y) const;
+  // Copies the inked pixels so that the anchor lands on pixel (x, y); parts
+  // outside the buffer are clipped.
+  void StampOnto(const PixelBuffer& target, int x, int y) const;
 
   int Width() const { return width_; }
   int Height() const { return height_; }
 
  private:
-  // The inked pixels of one row: columns x .. x + Length - 1, stored from First.
-  struct Span {
+  // Inked pixels Length long from column X of row Y, stored from First.
+  struct Run {
     int Y;
     int X;
     int Length;
@@ -48,8 +48,8 @@ class Sprite {
   int height_ = 0;
   int anchorX_ = 0;
   int anchorY_ = 0;
-  std::vector<Span> spans_;
-  std::vector<uint32_t> pixels_;  // premultiplied ARGB
+  std::vector<Run> runs_;
+  std::vector<uint32_t> pixels_;  // opaque RGB32
 };
 
 }  // namespace keldor

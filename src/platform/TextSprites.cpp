@@ -13,6 +13,7 @@ namespace {
 Sprite DrawText(std::string_view text, QRgb colour, int pixelSize) {
   QFont font(QStringLiteral("Sans Serif"));
   font.setPixelSize(std::max(1, pixelSize));
+  font.setStyleStrategy(QFont::NoAntialias);
   const QString string = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
   const QFontMetrics metrics(font);
   QImage image(std::max(1, metrics.horizontalAdvance(string)), std::max(1, metrics.height()),
