@@ -51,8 +51,8 @@ QRgb QtCanvas::ToQRgb(double colour) {
 
 void QtCanvas::SetScale(const ViewScale& scale) {
   scale_ = scale;
-  pixelsPerUnitX_ = scale.Width != 0 ? image_.width() / scale.Width : 0;
-  pixelsPerUnitY_ = scale.Height != 0 ? image_.height() / scale.Height : 0;
+  pixelsPerUnitX_ = scale.Width != 0 ? buffer_.Width / scale.Width : 0;
+  pixelsPerUnitY_ = scale.Height != 0 ? buffer_.Height / scale.Height : 0;
 }
 
 void QtCanvas::TakeBuffer() {
@@ -68,14 +68,14 @@ void QtCanvas::Cls() {
 }
 
 int QtCanvas::LineWidthPixels() const {
-  return std::max(1, static_cast<int>(std::lround(Pen.DrawWidth * devicePixelRatio_)));
+  return std::max(1, ToPixelIndex(Pen.DrawWidth * devicePixelRatio_));
 }
 
 void QtCanvas::FillPixels(int left, int top, int right, int bottom, QRgb colour) {
   left = std::max(left, 0);
   top = std::max(top, 0);
-  right = std::min(right, image_.width() - 1);
-  bottom = std::min(bottom, image_.height() - 1);
+  right = std::min(right, buffer_.Width - 1);
+  bottom = std::min(bottom, buffer_.Height - 1);
   if (left > right) return;
   const uint32_t value = colour | 0xff000000u;
   for (int y = top; y <= bottom; ++y) {
@@ -89,7 +89,7 @@ void QtCanvas::Box(double x1, double y1, double x2, double y2, double colour) {
   const int right = ToPixelIndex(std::max(PixelX(x1), PixelX(x2)));
   const int top = ToPixelIndex(std::min(PixelY(y1), PixelY(y2)));
   const int bottom = ToPixelIndex(std::max(PixelY(y1), PixelY(y2)));
-  if (right < 0 || bottom < 0 || left >= image_.width() || top >= image_.height()) return;
+  if (right < 0 || bottom < 0 || left >= buffer_.Width || top >= buffer_.Height) return;
   const int width = LineWidthPixels();
   const QRgb outline = ToQRgb(colour);
   if (right - left < 2 * width || bottom - top < 2 * width) {  // all outline
@@ -119,8 +119,8 @@ void QtCanvas::Line(double x1, double y1, double x2, double y2, double colour) {
 }
 
 void QtCanvas::PaintSlantedLine(double x1, double y1, double x2, double y2, QRgb colour) {
-  if (std::max(x1, x2) < 0 || std::max(y1, y2) < 0 || std::min(x1, x2) > image_.width() ||
-      std::min(y1, y2) > image_.height()) {
+  if (std::max(x1, x2) < 0 || std::max(y1, y2) < 0 || std::min(x1, x2) > buffer_.Width ||
+      std::min(y1, y2) > buffer_.Height) {
     return;
   }
   QPainter painter(&image_);
@@ -135,13 +135,13 @@ void QtCanvas::Circle(double x, double y, double radius, double colour) {
   const double cy = PixelY(y);
   const double r = std::abs(radius) * pixelsPerUnitX_;
   const double reach = r + LineWidthPixels();
-  if (cx + reach < 0 || cy + reach < 0 || cx - reach > image_.width() || cy - reach > image_.height()) return;
+  if (cx + reach < 0 || cy + reach < 0 || cx - reach > buffer_.Width || cy - reach > buffer_.Height) return;
   const QRgb outline = ToQRgb(colour);
   if (r > DiscSprites::MaxRadius) {
     PaintLargeCircle(cx, cy, r, outline);
     return;
   }
-  const DiscKey key{static_cast<int>(std::lround(r * 4)), LineWidthPixels(), Pen.Fill == FillStyle::Solid,
+  const DiscKey key{ToPixelIndex(r * 4), LineWidthPixels(), Pen.Fill == FillStyle::Solid,
                     ToQRgb(Pen.FillColor), outline};
   discs_.Get(key).StampOnto(buffer_, ToPixelIndex(cx - 0.5), ToPixelIndex(cy - 0.5));
 }
@@ -160,8 +160,8 @@ void QtCanvas::Print(std::string_view text) {
   if (text.empty()) return;
   const int x = ToPixelIndex(PixelX(Pen.CurrentX));
   const int y = ToPixelIndex(PixelY(Pen.CurrentY));
-  if (x >= image_.width() || y >= image_.height()) return;
-  const int pixelSize = static_cast<int>(std::lround(Pen.FontSize * TwipsPerPoint / TwipsPerPixel * devicePixelRatio_));
+  if (x >= buffer_.Width || y >= buffer_.Height) return;
+  const int pixelSize = ToPixelIndex(Pen.FontSize * TwipsPerPoint / TwipsPerPixel * devicePixelRatio_);
   texts_.Get(text, ToQRgb(Pen.ForeColor), pixelSize).StampOnto(buffer_, x, y);
 }
 

@@ -48,7 +48,8 @@ void Sprite::StampOnto(const PixelBuffer& target, int x, int y) const {
       if (from >= to) continue;
     }
     uint32_t* dst = target.Pixels + ty * target.PixelsPerRow + left + run.X;
-    std::copy(pixels_.begin() + run.First + from, pixels_.begin() + run.First + to, dst + from);
+    const uint32_t* src = pixels_.data() + run.First;
+    for (int i = from; i < to; ++i) dst[i] = src[i];  // runs are a few pixels long
   }
 }
 

@@ -29,21 +29,36 @@ Sprite DrawText(std::string_view text, QRgb colour, int pixelSize) {
 
 }  // namespace
 
+void TextSprites::ForgetAllIfFull() {
+  if (entries_ < MaxEntries) return;
+  for (auto& [key, style] : styles_) {
+    style.ShortTexts.clear();
+    style.LongTexts.clear();
+  }
+  entries_ = 0;
+}
+
 const Sprite& TextSprites::Get(std::string_view text, QRgb colour, int pixelSize) {
   const uint64_t styleKey = static_cast<uint64_t>(colour & 0xffffff) << 32 | static_cast<uint32_t>(pixelSize);
   if (style_ == nullptr || styleKey != styleKey_) {
     style_ = &styles_[styleKey];
     styleKey_ = styleKey;
   }
-  key_.assign(text);
-  auto found = style_->find(key_);
-  if (found != style_->end()) return found->second;
-  if (entries_ >= MaxEntries) {
-    for (auto& [key, sprites] : styles_) sprites.clear();
-    entries_ = 0;
+  if (text.size() <= 7) {
+    uint64_t key = text.size();
+    for (char c : text) key = key << 8 | static_cast<unsigned char>(c);
+    auto found = style_->ShortTexts.find(key);
+    if (found != style_->ShortTexts.end()) return found->second;
+    ForgetAllIfFull();
+    ++entries_;
+    return style_->ShortTexts.emplace(key, DrawText(text, colour, pixelSize)).first->second;
   }
+  const std::string key(text);
+  auto found = style_->LongTexts.find(key);
+  if (found != style_->LongTexts.end()) return found->second;
+  ForgetAllIfFull();
   ++entries_;
-  return style_->emplace(key_, DrawText(text, colour, pixelSize)).first->second;
+  return style_->LongTexts.emplace(key, DrawText(text, colour, pixelSize)).first->second;
 }
 
 }  // namespace keldor

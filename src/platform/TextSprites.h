@@ -19,15 +19,20 @@ class TextSprites {
   const Sprite& Get(std::string_view text, QRgb colour, int pixelSize);
 
  private:
-  using TextMap = std::unordered_map<std::string, Sprite>;
+  // The sprites of one colour and size. Texts of up to seven bytes (every
+  // number the views print) are keyed by their bytes packed into an integer.
+  struct Style {
+    std::unordered_map<uint64_t, Sprite> ShortTexts;
+    std::unordered_map<std::string, Sprite> LongTexts;
+  };
   static constexpr size_t MaxEntries = 8192;
 
-  // One map per colour and size; the last one used is kept at hand.
-  std::unordered_map<uint64_t, TextMap> styles_;
-  TextMap* style_ = nullptr;
+  void ForgetAllIfFull();
+
+  std::unordered_map<uint64_t, Style> styles_;
+  Style* style_ = nullptr;  // the last style used
   uint64_t styleKey_ = 0;
   size_t entries_ = 0;
-  std::string key_;  // reused to look up without allocating
 };
 
 }  // namespace keldor
