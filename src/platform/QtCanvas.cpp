@@ -71,16 +71,16 @@ int QtCanvas::LineWidthPixels() const {
   return std::max(1, ToPixelIndex(Pen.DrawWidth * devicePixelRatio_));
 }
 
-void QtCanvas::FillPixels(int left, int top, int right, int bottom, QRgb colour) {
+void QtCanvas::FillSpan(uint32_t* row, int left, int right, uint32_t value) const {
   left = std::max(left, 0);
-  top = std::max(top, 0);
   right = std::min(right, buffer_.Width - 1);
-  bottom = std::min(bottom, buffer_.Height - 1);
-  if (left > right) return;
+  if (left <= right) FillRow(row + left, right - left + 1, value);
+}
+
+void QtCanvas::FillPixels(int left, int top, int right, int bottom, QRgb colour) {
   const uint32_t value = colour | 0xff000000u;
-  for (int y = top; y <= bottom; ++y) {
-    uint32_t* row = buffer_.Pixels + y * buffer_.PixelsPerRow;
-    FillRow(row + left, right - left + 1, value);
+  for (int y = std::max(top, 0); y <= std::min(bottom, buffer_.Height - 1); ++y) {
+    FillSpan(buffer_.Pixels + y * buffer_.PixelsPerRow, left, right, value);
   }
 }
 
@@ -91,18 +91,25 @@ void QtCanvas::Box(double x1, double y1, double x2, double y2, double colour) {
   const int bottom = ToPixelIndex(std::max(PixelY(y1), PixelY(y2)));
   if (right < 0 || bottom < 0 || left >= buffer_.Width || top >= buffer_.Height) return;
   const int width = LineWidthPixels();
-  const QRgb outline = ToQRgb(colour);
-  if (right - left < 2 * width || bottom - top < 2 * width) {  // all outline
-    FillPixels(left, top, right, bottom, outline);
-    return;
+  const uint32_t outline = ToQRgb(colour) | 0xff000000u;
+  const bool filled = Pen.Fill == FillStyle::Solid;
+  const uint32_t fill = ToQRgb(Pen.FillColor) | 0xff000000u;
+  // One pass over the rows: outline bands, and between them the left edge,
+  // the inside and the right edge.
+  const int innerLeft = left + width;
+  const int innerRight = right - width;
+  const int firstRow = std::max(top, 0);
+  const int lastRow = std::min(bottom, buffer_.Height - 1);
+  for (int y = firstRow; y <= lastRow; ++y) {
+    uint32_t* row = buffer_.Pixels + y * buffer_.PixelsPerRow;
+    if (y < top + width || y > bottom - width || innerLeft > innerRight) {
+      FillSpan(row, left, right, outline);
+      continue;
+    }
+    FillSpan(row, left, innerLeft - 1, outline);
+    if (filled) FillSpan(row, innerLeft, innerRight, fill);
+    FillSpan(row, innerRight + 1, right, outline);
   }
-  if (Pen.Fill == FillStyle::Solid) {
-    FillPixels(left + width, top + width, right - width, bottom - width, ToQRgb(Pen.FillColor));
-  }
-  FillPixels(left, top, right, top + width - 1, outline);
-  FillPixels(left, bottom - width + 1, right, bottom, outline);
-  FillPixels(left, top + width, left + width - 1, bottom - width, outline);
-  FillPixels(right - width + 1, top + width, right, bottom - width, outline);
 }
 
 void QtCanvas::Line(double x1, double y1, double x2, double y2, double colour) {

@@ -3,9 +3,10 @@
 // width x height logical pixels times the device pixel ratio. Text sizes are
 // in points (20 twips) on a 96 dpi screen (15 twips per logical pixel).
 //
-// Small circles and printed numbers are blended from cached sprites, boxes and
-// axis-aligned lines are written straight into the image; only large circles
-// and slanted lines go through QPainter. Shapes wholly off the image are skipped.
+// Small circles and printed numbers are stamped from cached sprites (see
+// Sprite, DiscSprites, TextSprites), boxes and axis-aligned lines are written
+// straight into the image; only large circles and slanted lines go through
+// QPainter. Shapes wholly off the image are skipped before any work.
 #pragma once
 
 #include <QImage>
@@ -49,6 +50,8 @@ class QtCanvas : public Canvas {
   // Points the direct pixel writes at the image's buffer (after it may have
   // been reallocated or detached from a copy).
   void TakeBuffer();
+  // Fills pixel columns left..right (inclusive) of one row, clipped.
+  void FillSpan(uint32_t* row, int left, int right, uint32_t value) const;
   // Fills pixel columns left..right of rows top..bottom (inclusive), clipped.
   void FillPixels(int left, int top, int right, int bottom, QRgb colour);
   void PaintLargeCircle(double cx, double cy, double radius, QRgb outline);
