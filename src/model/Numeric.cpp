@@ -1,6 +1,7 @@
 #include "model/Numeric.h"
 
 #include <cctype>
+#include <charconv>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
@@ -72,6 +73,11 @@ double ToNumber(std::string_view text) {
 std::string CStr(double v) {
   if (v == 0.0) return "0";  // also folds -0
   char buf[64];
+  // Whole numbers (the views print thousands per frame) without printf.
+  if (std::fabs(v) < 1e15 && v == std::trunc(v)) {
+    const auto end = std::to_chars(buf, buf + sizeof buf, static_cast<int64_t>(v)).ptr;
+    return std::string(buf, end);
+  }
   std::snprintf(buf, sizeof buf, "%.15g", v);
   return buf;
 }

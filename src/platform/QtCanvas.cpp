@@ -1,0 +1,175 @@
+#include "platform/QtCanvas.h"
+
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
+
+
+namespace keldor {
+
+namespace {
+
+const QRgb Background = qRgb(185, 172, 145);
+
+// Sets count pixels to value, four at a time where the processor allows.
+void FillRow(uint32_t* row, int count, uint32_t value) {
+  int i = 0;
+#if defined(__SSE2__)
+  const __m128i four = _mm_set1_epi32(static_cast<int>(value));
+  for (; i + 4 <= count; i += 4) _mm_storeu_si128(reinterpret_cast<__m128i*>(row + i), four);
+#endif
+  for (; i < count; ++i) row[i] = value;
+}
+
+// Pixel coordinates far outside any image, held within int range.
+int ToPixelIndex(double v) { return static_cast<int>(std::clamp(std::floor(v + 0.5), -1e8, 1e8)); }
+
+}  // namespace
+
+QtCanvas::QtCanvas(int width, int height, double devicePixelRatio) : devicePixelRatio_(devicePixelRatio) {
+  Resize(width, height);
+}
+
+void QtCanvas::Resize(int width, int height) {
+  image_ = QImage(std::max(1, static_cast<int>(std::lround(width * devicePixelRatio_))),
+                  std::max(1, static_cast<int>(std::lround(height * devicePixelRatio_))), QImage::Format_RGB32);
+  image_.fill(Background);
+  TakeBuffer();
+  SetScale({scale_.Left, scale_.Top, width * TwipsPerPixel, height * TwipsPerPixel});
+}
+
+QRgb QtCanvas::ToQRgb(double colour) {
+  const auto value = static_cast<uint32_t>(static_cast<int64_t>(colour) & 0xffffff);
+  return qRgb(static_cast<int>(value & 0xff), static_cast<int>((value >> 8) & 0xff),
+              static_cast<int>((value >> 16) & 0xff));
+}
+
+void QtCanvas::SetScale(const ViewScale& scale) {
+  scale_ = scale;
+  pixelsPerUnitX_ = scale.Width != 0 ? buffer_.Width / scale.Width : 0;
+  pixelsPerUnitY_ = scale.Height != 0 ? buffer_.Height / scale.Height : 0;
+}
+
+void QtCanvas::TakeBuffer() {
+  buffer_.Pixels = reinterpret_cast<uint32_t*>(image_.bits());
+  buffer_.PixelsPerRow = image_.bytesPerLine() / static_cast<qsizetype>(sizeof(uint32_t));
+  buffer_.Width = image_.width();
+  buffer_.Height = image_.height();
+}
+
+void QtCanvas::Cls() {
+  TakeBuffer();
+  FillRow(buffer_.Pixels, static_cast<int>(buffer_.PixelsPerRow * buffer_.Height), Background | 0xff000000u);
+}
+
+int QtCanvas::LineWidthPixels() const {
+  return std::max(1, ToPixelIndex(Pen.DrawWidth * devicePixelRatio_));
+}
+
+void QtCanvas::FillSpan(uint32_t* row, int left, int right, uint32_t value) const {
+  left = std::max(left, 0);
+  right = std::min(right, buffer_.Width - 1);
+  if (left <= right) FillRow(row + left, right - left + 1, value);
+}
+
+void QtCanvas::FillPixels(int left, int top, int right, int bottom, QRgb colour) {
+  const uint32_t value = colour | 0xff000000u;
+  for (int y = std::max(top, 0); y <= std::min(bottom, buffer_.Height - 1); ++y) {
+    FillSpan(buffer_.Pixels + y * buffer_.PixelsPerRow, left, right, value);
+  }
+}
+
+void QtCanvas::Box(double x1, double y1, double x2, double y2, double colour) {
+  const int left = ToPixelIndex(std::min(PixelX(x1), PixelX(x2)));
+  const int right = ToPixelIndex(std::max(PixelX(x1), PixelX(x2)));
+  const int top = ToPixelIndex(std::min(PixelY(y1), PixelY(y2)));
+  const int bottom = ToPixelIndex(std::max(PixelY(y1), PixelY(y2)));
+  if (right < 0 || bottom < 0 || left >= buffer_.Width || top >= buffer_.Height) return;
+  const int width = LineWidthPixels();
+  const uint32_t outline = ToQRgb(colour) | 0xff000000u;
+  const bool filled = Pen.Fill == FillStyle::Solid;
+  const uint32_t fill = ToQRgb(Pen.FillColor) | 0xff000000u;
+  // One pass over the rows: outline bands, and between them the left edge,
+  // the inside and the right edge.
+  const int innerLeft = left + width;
+  const int innerRight = right - width;
+  const int firstRow = std::max(top, 0);
+  const int lastRow = std::min(bottom, buffer_.Height - 1);
+  for (int y = firstRow; y <= lastRow; ++y) {
+    uint32_t* row = buffer_.Pixels + y * buffer_.PixelsPerRow;
+    if (y < top + width || y > bottom - width || innerLeft > innerRight) {
+      FillSpan(row, left, right, outline);
+      continue;
+    }
+    FillSpan(row, left, innerLeft - 1, outline);
+    if (filled) FillSpan(row, innerLeft, innerRight, fill);
+    FillSpan(row, innerRight + 1, right, outline);
+  }
+}
+
+void QtCanvas::Line(double x1, double y1, double x2, double y2, double colour) {
+  const QRgb rgb = ToQRgb(colour);
+  const double px1 = PixelX(x1), py1 = PixelY(y1), px2 = PixelX(x2), py2 = PixelY(y2);
+  const int width = LineWidthPixels() - 1;
+  if (py1 == py2 || px1 == px2) {
+    const int left = ToPixelIndex(std::min(px1, px2)), right = ToPixelIndex(std::max(px1, px2));
+    const int top = ToPixelIndex(std::min(py1, py2)), bottom = ToPixelIndex(std::max(py1, py2));
+    FillPixels(left, top, right + (px1 == px2 ? width : 0), bottom + (py1 == py2 ? width : 0), rgb);
+  } else {
+    PaintSlantedLine(px1, py1, px2, py2, rgb);
+  }
+}
+
+void QtCanvas::PaintSlantedLine(double x1, double y1, double x2, double y2, QRgb colour) {
+  if (std::max(x1, x2) < 0 || std::max(y1, y2) < 0 || std::min(x1, x2) > buffer_.Width ||
+      std::min(y1, y2) > buffer_.Height) {
+    return;
+  }
+  QPainter painter(&image_);
+  painter.setPen(QPen(QColor(colour), LineWidthPixels()));
+  painter.drawLine(QPointF(x1, y1), QPointF(x2, y2));
+  painter.end();
+  TakeBuffer();
+}
+
+void QtCanvas::Circle(double x, double y, double radius, double colour) {
+  const double cx = PixelX(x);
+  const double cy = PixelY(y);
+  const double r = std::abs(radius) * pixelsPerUnitX_;
+  const double reach = r + LineWidthPixels();
+  if (cx + reach < 0 || cy + reach < 0 || cx - reach > buffer_.Width || cy - reach > buffer_.Height) return;
+  const QRgb outline = ToQRgb(colour);
+  if (r > DiscSprites::MaxRadius) {
+    PaintLargeCircle(cx, cy, r, outline);
+    return;
+  }
+  const DiscKey key{ToPixelIndex(r * 4), LineWidthPixels(), Pen.Fill == FillStyle::Solid,
+                    ToQRgb(Pen.FillColor), outline};
+  discs_.Get(key).StampOnto(buffer_, ToPixelIndex(cx - 0.5), ToPixelIndex(cy - 0.5));
+}
+
+void QtCanvas::PaintLargeCircle(double cx, double cy, double radius, QRgb outline) {
+  QPainter painter(&image_);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(QColor(outline), LineWidthPixels()));
+  painter.setBrush(Pen.Fill == FillStyle::Solid ? QBrush(QColor(ToQRgb(Pen.FillColor))) : Qt::NoBrush);
+  painter.drawEllipse(QPointF(cx, cy), radius, radius);
+  painter.end();
+  TakeBuffer();
+}
+
+void QtCanvas::Print(std::string_view text) {
+  if (text.empty()) return;
+  const int x = ToPixelIndex(PixelX(Pen.CurrentX));
+  const int y = ToPixelIndex(PixelY(Pen.CurrentY));
+  if (x >= buffer_.Width || y >= buffer_.Height) return;
+  const int pixelSize = ToPixelIndex(Pen.FontSize * TwipsPerPoint / TwipsPerPixel * devicePixelRatio_);
+  texts_.Get(text, ToQRgb(Pen.ForeColor), pixelSize).StampOnto(buffer_, x, y);
+}
+
+}  // namespace keldor

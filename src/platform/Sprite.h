@@ -1,0 +1,55 @@
+// A small picture that the Qt canvas stamps onto its image many times per
+// frame: a cached disc or a cached printed number. Sprites are drawn without
+// anti-aliasing, so a pixel is either inked or empty; only the runs of inked
+// pixels are kept (digits are mostly empty space) and stamping is a handful
+// of short copies, far cheaper than a QPainter call per circle and per number.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+class QImage;
+
+namespace keldor {
+
+// The pixels of an opaque RGB32 image, written directly.
+struct PixelBuffer {
+  uint32_t* Pixels = nullptr;
+  std::ptrdiff_t PixelsPerRow = 0;
+  int Width = 0;
+  int Height = 0;
+};
+
+class Sprite {
+ public:
+  Sprite() = default;
+  // The inked pixels (alpha at least one half) of an image in any format;
+  // (anchorX, anchorY) is the pixel that StampOnto places on its target point.
+  Sprite(const QImage& image, int anchorX, int anchorY);
+
+  // Copies the inked pixels so that the anchor lands on pixel (x, y); parts
+  // outside the buffer are clipped.
+  void StampOnto(const PixelBuffer& target, int x, int y) const;
+
+  int Width() const { return width_; }
+  int Height() const { return height_; }
+
+ private:
+  // Inked pixels Length long from column X of row Y, stored from First.
+  struct Run {
+    int Y;
+    int X;
+    int Length;
+    uint32_t First;
+  };
+
+  int width_ = 0;
+  int height_ = 0;
+  int anchorX_ = 0;
+  int anchorY_ = 0;
+  std::vector<Run> runs_;
+  std::vector<uint32_t> pixels_;  // opaque RGB32
+};
+
+}  // namespace keldor
