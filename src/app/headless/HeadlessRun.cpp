@@ -12,12 +12,12 @@
 #include "app/headless/StreamMessageBox.h"
 #include "app/headless/TickCsv.h"
 #include "app/headless/TickLoop.h"
+#include "app/headless/WorldSetup.h"
 #include "model/Numeric.h"
 #include "model/Random.h"
 #include "model/World.h"
 #include "platform/SystemClock.h"
 #include "sim/TickPainter.h"
-#include "app/headless/WorldSetup.h"
 
 namespace keldor::headless {
 
