@@ -124,14 +124,5 @@ TEST(StateJsonTest, SameSeedSameDocumentOtherSeedAnother) {
   EXPECT_NE(a, c);
 }
 
-TEST(StateJsonTest, BeforeNewThereAreNoContainers) {
-  World w;
-  Form_Load(w);
-  const QJsonObject json = StateJson(w, 0);
-  EXPECT_TRUE(json["Cells"].toArray().isEmpty());
-  EXPECT_TRUE(json["Nests"].toArray().isEmpty());
-  EXPECT_EQ(json["GridX"].toInt(), 30);
-}
-
 }  // namespace
 }  // namespace keldor::headless

@@ -28,17 +28,6 @@ std::vector<std::string> Lines(const std::string& text) {
   return lines;
 }
 
-TEST(TickCsvTest, HeaderThenOneRowPerCall) {
-  TestWorld t;
-  std::ostringstream out;
-  TickCsv csv(out);
-  for (int tick = 1; tick <= 3; ++tick) csv.WriteRow(tick, t.world);
-  const std::vector<std::string> lines = Lines(out.str());
-  ASSERT_EQ(lines.size(), 4u);
-  EXPECT_EQ(lines[0], "tick,Population,NestCount,FoodPileCount,FoodOnMap,FoodStored,Carrying,ScentedCells");
-  EXPECT_EQ(lines[3].substr(0, 10), "3,30,1," + std::to_string(t.world.FoodPileCount()) + ",");
-}
-
 TEST(TickCsvTest, TotalsCountWorldCellsStoresAndLivingCarriers) {
   TestWorld t = EmptiedWorld();
   World& w = t.world;
