@@ -1,6 +1,7 @@
 #include "app/headless/HeadlessRun.h"
 
 #include <chrono>
+#include <iomanip>
 #include <memory>
 #include <optional>
 
@@ -13,7 +14,6 @@
 #include "app/headless/TickCsv.h"
 #include "app/headless/TickLoop.h"
 #include "app/headless/WorldSetup.h"
-#include "model/Numeric.h"
 #include "model/Random.h"
 #include "model/World.h"
 #include "platform/SystemClock.h"
@@ -33,8 +33,8 @@ int Fail(std::ostream& err, const std::string& message, int status) {
 void PrintSummary(std::ostream& out, const World& world, int64_t ticks, double seconds) {
   const double ticksPerSecond = seconds > 0 ? ticks / seconds : 0;
   out << ProgramName << ": " << ticks << " ticks, population " << world.Settings.Population << ", "
-      << world.NestCount << " nests, " << world.FoodPileCount() << " food piles, " << Format(ticksPerSecond, "#.0")
-      << " ticks/s" << std::endl;
+      << world.NestCount << " nests, " << world.FoodPileCount() << " food piles, " << std::fixed
+      << std::setprecision(1) << ticksPerSecond << " ticks/s" << std::endl;
 }
 
 }  // namespace
