@@ -1,0 +1,162 @@
+#include "app/headless/StateJson.h"
+
+#include <QJsonArray>
+#include <QString>
+
+#include "model/World.h"
+
+namespace keldor::headless {
+
+namespace {
+
+QString Text(const std::string& s) { return QString::fromStdString(s); }
+QString Text(const Signature& s) { return QString::fromStdString(s.ToString()); }
+
+// The live items 0..Count()-1 of a list, each through toJson.
+template <class T, class ToJson>
+QJsonArray LiveItems(const SlotList<T>& list, ToJson toJson) {
+  QJsonArray items;
+  for (const T& item : list) items.append(toJson(item));
+  return items;
+}
+
+QJsonObject PointJson(const WorldPoint& p) { return {{"X", p.X}, {"Y", p.Y}}; }
+
+QJsonObject ShapeJson(const WallShape& shape) {
+  QJsonArray points;
+  for (const WorldPoint& p : shape.Points) points.append(PointJson(p));
+  return {{"Colour", shape.Colour}, {"Points", points}, {"Material", Text(shape.Material)}};
+}
+
+QJsonObject WallJson(const WallObject& wall) {
+  QJsonArray shapes;
+  for (const WallShape& shape : wall.Shapes) shapes.append(ShapeJson(shape));
+  return {{"TypeName", Text(wall.TypeName)},
+          {"X", wall.X},
+          {"Y", wall.Y},
+          {"ShapeCount", wall.ShapeCount},
+          {"Shapes", shapes}};
+}
+
+QJsonObject CellJson(const Cell& c) {
+  return {{"X", c.X},
+          {"Y", c.Y},
+          {"Signature", Text(c.Signature)},
+          {"Food", c.Food},
+          {"AntCount", c.AntCount},
+          {"Scent", c.Scent},
+          {"Colour", c.Colour},
+          {"ObjectCount", c.ObjectCount()},
+          {"Objects", LiveItems(c.Objects, WallJson)}};
+}
+
+QJsonObject AntJson(const Ant& a) {
+  return {{"RearX", a.RearX},   {"RearY", a.RearY}, {"HeadX", a.HeadX},   {"HeadY", a.HeadY},
+          {"CellX", a.CellX},   {"CellY", a.CellY}, {"Angle", a.Angle},   {"Length", a.Length},
+          {"Load", a.Load},     {"LifeFactor", a.LifeFactor},             {"Energy", a.Energy},
+          {"Colour", a.Colour}};
+}
+
+QJsonObject NestJson(const Nest& n) {
+  return {{"Name", Text(n.Name)},
+          {"Signature", Text(n.Signature)},
+          {"X", n.X},
+          {"Y", n.Y},
+          {"CellX", n.CellX},
+          {"CellY", n.CellY},
+          {"Radius", n.Radius},
+          {"AntCount", n.AntCount()},
+          {"AntLength", n.AntLength},
+          {"AntBodyArea", n.AntBodyArea},
+          {"AntUnit", n.AntUnit},
+          {"Ants", LiveItems(n.Ants, AntJson)},
+          {"Colour", n.Colour},
+          {"FoodStore", n.FoodStore},
+          {"LifeSpan", n.LifeSpan}};
+}
+
+QJsonObject FoodPileJson(const FoodPile& p) {
+  return {{"X", p.X}, {"Y", p.Y}, {"SpreadBudget", p.SpreadBudget}, {"Amount", p.Amount}};
+}
+
+void AddSettings(QJsonObject& json, const World& world) {
+  const WorldSettings& s = world.Settings;
+  json.insert("GridX", s.GridX);
+  json.insert("GridY", s.GridY);
+  json.insert("CellSize", s.CellSize);
+  json.insert("ScaleX", s.ScaleX);
+  json.insert("ScaleY", s.ScaleY);
+  json.insert("SpreadFoodAmount", s.SpreadFoodAmount);
+  json.insert("CellFoodCapacity", s.CellFoodCapacity());
+  json.insert("NestCount", world.NestCount);
+  json.insert("Population", s.Population);
+  json.insert("AntsPerNest", s.AntsPerNest);
+  json.insert("AntSizeMm", s.AntSizeMm);
+  json.insert("AntRed", s.AntRed);
+  json.insert("AntGreen", s.AntGreen);
+  json.insert("AntBlue", s.AntBlue);
+  json.insert("AntColour", s.AntColour);
+  json.insert("LifeSpan", s.LifeSpan);
+  json.insert("FoodRate", s.FoodRate);
+  json.insert("FoodScentMax", s.FoodScentMax);
+  json.insert("NestScentMax", s.NestScentMax);
+  json.insert("FoodTraceSetting", s.FoodTraceSetting);
+  json.insert("NestTraceSetting", s.NestTraceSetting);
+  json.insert("CurrentTool", s.CurrentTool);
+  json.insert("ToolColour", s.ToolColour);
+}
+
+void AddWindowState(QJsonObject& json, const World& world) {
+  json.insert("TimerEnabled", world.TimerEnabled);
+  json.insert("Running", world.Running);
+  json.insert("MouseButton", world.MouseButton);
+  json.insert("MouseHeld", world.MouseHeld);
+  json.insert("AntSizeTwips", world.AntSizeTwips);
+  json.insert("NestRadius", world.NestRadius);
+  json.insert("ZoomX", world.ZoomX);
+  json.insert("ZoomY", world.ZoomY);
+  json.insert("AntBodyArea", world.AntBodyArea);
+  json.insert("ShowOdor", world.ShowOdor);
+  json.insert("ShowAnts", world.ShowAnts);
+  json.insert("FoodPileCount", world.FoodPileCount());
+  json.insert("WallCount", world.WallCount());
+  json.insert("FoodChance", world.FoodChance);
+  json.insert("ViewCentreX", world.ViewCentreX);
+  json.insert("ViewCentreY", world.ViewCentreY);
+  json.insert("MouseX", world.MouseX);
+  json.insert("MouseY", world.MouseY);
+  json.insert("CursorCellX", world.CursorCellX);
+  json.insert("CursorCellY", world.CursorCellY);
+}
+
+// World cells 1..GridX by 1..GridY, column by column; none before New.
+QJsonArray CellsJson(const World& world) {
+  QJsonArray cells;
+  if (!world.HasWorld()) return cells;
+  for (int x = 1; x <= world.Settings.GridX; ++x) {
+    for (int y = 1; y <= world.Settings.GridY; ++y) cells.append(CellJson(world.Cells(x, y)));
+  }
+  return cells;
+}
+
+QJsonArray NestsJson(const World& world) {
+  QJsonArray nests;
+  for (int i = 0; i < world.NestCount; ++i) nests.append(NestJson(world.Nests[static_cast<size_t>(i)]));
+  return nests;
+}
+
+}  // namespace
+
+QJsonObject StateJson(const World& world, int64_t ticks) {
+  QJsonObject json;
+  AddSettings(json, world);
+  AddWindowState(json, world);
+  json.insert("Tick", static_cast<qint64>(ticks));
+  json.insert("Cells", CellsJson(world));
+  json.insert("Nests", NestsJson(world));
+  json.insert("FoodPiles", LiveItems(world.FoodPiles, FoodPileJson));
+  json.insert("Walls", LiveItems(world.Walls, WallJson));
+  return json;
+}
+
+}  // namespace keldor::headless

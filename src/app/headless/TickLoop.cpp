@@ -1,0 +1,18 @@
+#include "app/headless/TickLoop.h"
+
+#include "model/Random.h"
+#include "sim/Tick.h"
+
+namespace keldor::headless {
+
+void RunTicks(const TickLoop& loop, int64_t count, TickPainter& painter, TickPainter& lastPainter,
+              const std::function<void(int64_t)>& afterTick) {
+  for (int64_t tick = 1; tick <= count; ++tick) {
+    TickContext context{loop.world, loop.random, tick == count ? lastPainter : painter, loop.messages};
+    Timer1_Timer(context);
+    if (loop.clock != nullptr) loop.clock->Advance(TickPeriodSeconds);
+    afterTick(tick);
+  }
+}
+
+}  // namespace keldor::headless

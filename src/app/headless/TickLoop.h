@@ -1,0 +1,33 @@
+// The tick loop of a batch run: the tick fired back to back, the virtual clock
+// (when there is one) moved on by the timer's period after each tick.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+
+namespace keldor {
+struct World;
+class RandomSource;
+class VirtualClock;
+class MessageBox;
+class TickPainter;
+}  // namespace keldor
+
+namespace keldor::headless {
+
+// Timer1's interval, in seconds.
+inline constexpr double TickPeriodSeconds = 0.075;
+
+struct TickLoop {
+  World& world;
+  RandomSource& random;
+  MessageBox& messages;
+  VirtualClock* clock = nullptr;  // null when the real time of day drives the random source
+};
+
+// Runs ticks 1..count. Every tick draws on `painter` but the last, which draws
+// on `lastPainter`; afterTick(n) sees the world after tick n.
+void RunTicks(const TickLoop& loop, int64_t count, TickPainter& painter, TickPainter& lastPainter,
+              const std::function<void(int64_t)>& afterTick);
+
+}  // namespace keldor::headless

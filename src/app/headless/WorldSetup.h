@@ -1,0 +1,23 @@
+// Builds the world a batch run starts from, as a user of the desktop program
+// would: start-up, the window sized to the requested view, the options dialog's
+// settings, New, the scenario, the zoom and display buttons, then Play unless
+// the run is to stay paused.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "app/headless/HeadlessOptions.h"
+
+namespace keldor {
+struct World;
+class RandomSource;
+}  // namespace keldor
+
+namespace keldor::headless {
+
+// Returns the message naming the argument when the options do not fit the
+// world (an ant longer than the nest radius, a scenario cell outside it...).
+std::optional<std::string> BuildWorld(World& world, RandomSource& random, const HeadlessOptions& options);
+
+}  // namespace keldor::headless
