@@ -34,9 +34,8 @@ void PictureBox::paintEvent(QPaintEvent*) {
     p.fillRect(rect(), BoxBackground);
     return;
   }
-  p.fillRect(rect(), BoxBackground);
-  p.drawImage(QRectF(0, 0, frame_.width() / frame_.devicePixelRatio(), frame_.height() / frame_.devicePixelRatio()),
-              frame_);
+  // The frame holds device pixels: on a high-dpi screen it is larger than the box in logical pixels.
+  p.drawImage(QRectF(rect()), frame_, QRectF(frame_.rect()));
 }
 
 void PictureBox::mousePressEvent(QMouseEvent* event) { emit MouseDown(ButtonBits(event->button()), event->position()); }

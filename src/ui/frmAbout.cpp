@@ -1,6 +1,5 @@
 #include "ui/frmAbout.h"
 
-#include <QApplication>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -8,20 +7,20 @@
 
 #include "model/SystemInfo.h"
 #include "ui/ButtonPictures.h"
-#include "ui/frmSplash.h"
+#include "ui/AppTexts.h"
 
 namespace keldor {
 
 frmAbout::frmAbout(Registry& registry, ProgramStarter& starter, MessageBox& messages, QWidget* parent)
     : QDialog(parent), registry_(registry), starter_(starter), messages_(messages) {
   setObjectName("frmAbout");
-  setWindowTitle("About " + QApplication::applicationName());
+  setWindowTitle(QString("About ") + ApplicationTitle);
   setModal(true);
 
   auto* picIcon = new QLabel;
   picIcon->setObjectName("picIcon");
   picIcon->setPixmap(AppIconPixmap(48));
-  auto* lblTitle = new QLabel("Keldor");
+  auto* lblTitle = new QLabel(ApplicationTitle);
   lblTitle->setObjectName("lblTitle");
   QFont titleFont = lblTitle->font();
   titleFont.setPointSize(titleFont.pointSize() + 8);

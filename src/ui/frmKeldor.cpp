@@ -17,6 +17,7 @@
 #include "platform/SystemRegistry.h"
 #include "sim/TerrainTools.h"
 #include "sim/Tick.h"
+#include "ui/AppTexts.h"
 #include "ui/ButtonPictures.h"
 #include "ui/PictureBox.h"
 #include "ui/frmAbout.h"
@@ -57,7 +58,7 @@ frmKeldor::frmKeldor(MessageBox& messages, Clock& clock, QWidget* parent)
       mapCanvas_(scale_.Pixels(MapBox.Width), scale_.Pixels(MapBox.Height), ViewBackground),
       painter_(terrainCanvas_, mapCanvas_) {
   setObjectName("frmKeldor");
-  setWindowTitle("Keldor");
+  setWindowTitle(ApplicationTitle);
   setWindowIcon(AppIcon());
   auto* central = new QWidget(this);
   setCentralWidget(central);

@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QPainter>
 
+#include "ui/AppTexts.h"
 #include "ui/ButtonPictures.h"
 
 namespace keldor {
@@ -10,7 +11,7 @@ namespace keldor {
 frmSplash::frmSplash(std::function<void()> showMain, QWidget* parent)
     : QWidget(parent, Qt::SplashScreen | Qt::FramelessWindowHint), showMain_(std::move(showMain)) {
   setObjectName("frmSplash");
-  setWindowTitle("Keldor");
+  setWindowTitle(ApplicationTitle);
   setAttribute(Qt::WA_DeleteOnClose);
   setFixedSize(420, 260);
   auto* label1 = new QLabel(AuthorshipText, this);
@@ -35,7 +36,7 @@ void frmSplash::paintEvent(QPaintEvent*) {
   title.setBold(true);
   p.setFont(title);
   p.setPen(QColor(255, 220, 120));
-  p.drawText(QRect(160, 40, 250, 70), Qt::AlignLeft | Qt::AlignVCenter, "Keldor");
+  p.drawText(QRect(160, 40, 250, 70), Qt::AlignLeft | Qt::AlignVCenter, ApplicationTitle);
   QFont subtitle = font();
   subtitle.setPointSize(12);
   p.setFont(subtitle);

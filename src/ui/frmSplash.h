@@ -11,9 +11,6 @@
 
 namespace keldor {
 
-inline constexpr const char* AuthorshipText = "Keldor developers";
-inline constexpr const char* WebAddressText = "https://keldor.example.org";
-
 class frmSplash : public QWidget {
   Q_OBJECT
 

@@ -69,7 +69,7 @@ class SplashAboutTest : public QObject {
     NoPrograms programs;
     testing::RecordingMessageBox messages;
     frmAbout about(registry, programs, messages);
-    QCOMPARE(about.windowTitle(), QString("About ") + QApplication::applicationName());
+    QCOMPARE(about.windowTitle(), QString("About Keldor"));
     about.show();
     QVERIFY(QTest::qWaitForWindowExposed(&about));
     QCOMPARE(Child<QPushButton>(&about, "cmdSysInfo")->text(), QString("&System Info..."));

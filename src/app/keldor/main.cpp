@@ -5,13 +5,14 @@
 
 #include "platform/QtMessageBox.h"
 #include "platform/SystemClock.h"
+#include "ui/AppTexts.h"
 #include "ui/ButtonPictures.h"
 #include "ui/frmKeldor.h"
 #include "ui/frmSplash.h"
 
 int main(int argc, char* argv[]) {
   QApplication app(argc, argv);
-  QApplication::setApplicationName("Keldor");
+  QApplication::setApplicationName(keldor::ApplicationTitle);
   QApplication::setWindowIcon(keldor::AppIcon());
 
   keldor::SystemClock clock;

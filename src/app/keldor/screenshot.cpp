@@ -10,12 +10,12 @@
 
 #include "model/Random.h"
 #include "platform/QtMessageBox.h"
-#include "ui/ButtonPictures.h"
+#include "ui/AppTexts.h"
 #include "ui/frmKeldor.h"
 
 int main(int argc, char* argv[]) {
   QApplication app(argc, argv);
-  QApplication::setApplicationName("Keldor");
+  QApplication::setApplicationName(keldor::ApplicationTitle);
   if (argc < 2) {
     std::fprintf(stderr, "usage: keldor-screenshot OUTPUT.png [TICKS] [SEED]\n");
     return 2;
