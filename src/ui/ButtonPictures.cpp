@@ -17,11 +17,17 @@ const QColor AntBrown(150, 100, 70);
 
 // An ant seen from above, head to the right, centred on (cx, cy).
 void DrawAnt(QPainter& p, double cx, double cy, double scale, const QColor& colour) {
-  p.setPen(QPen(colour.darker(150), 1.0 * scale));
+  // Six legs from the thorax, the front pair reaching forward, the hind pair
+  // back; two antennae from the head.
+  p.setPen(QPen(colour.darker(150), 1.0 * scale, Qt::SolidLine, Qt::RoundCap));
   for (int i = -1; i <= 1; ++i) {
-    p.drawLine(QPointF(cx + i * 2.5 * scale, cy), QPointF(cx + i * 3.5 * scale, cy - 5 * scale));
-    p.drawLine(QPointF(cx + i * 2.5 * scale, cy), QPointF(cx + i * 3.5 * scale, cy + 5 * scale));
+    for (int side : {-1, 1}) {
+      const QPointF knee(cx + i * 2.0 * scale, cy + side * 3.0 * scale);
+      p.drawLine(QPointF(cx, cy), knee);
+      p.drawLine(knee, QPointF(cx + i * 4.5 * scale, cy + side * 5.5 * scale));
+    }
   }
+  for (int side : {-1, 1}) p.drawLine(QPointF(cx + 4.5 * scale, cy), QPointF(cx + 7.5 * scale, cy + side * 3.0 * scale));
   p.setPen(Qt::NoPen);
   p.setBrush(colour);
   p.drawEllipse(QPointF(cx - 4.5 * scale, cy), 3.2 * scale, 2.4 * scale);
@@ -96,7 +102,7 @@ void DrawPicture(QPainter& p, ButtonPicture picture) {
       break;
     }
     case ButtonPicture::Ants:
-      DrawAnt(p, 12, 12, 1.3, AntBrown);
+      DrawAnt(p, 11, 12, 1.3, AntBrown);
       break;
     case ButtonPicture::NoTool: {
       // An arrow pointer.
