@@ -269,6 +269,7 @@ void frmKeldor::Timer1_Timer() {
   inTick_ = false;
   ++ticksRun_;
   ShowFrame();
+  ResizeCanvases();
   ShowControls();
 }
 
@@ -324,6 +325,13 @@ void frmKeldor::ApplyLayout() {
   fraActions_->raise();
   btnPickAction_->raise();
 
+  ResizeCanvases();
+}
+
+void frmKeldor::ResizeCanvases() {
+  // A tick may be waiting inside the population-limit message, halfway
+  // through its drawing: the canvases follow the boxes once it is done.
+  if (inTick_) return;
   const qreal ratio = devicePixelRatioF();
   const QSize pixels = picTerreno_->size() * ratio;
   if (terrainCanvas_.Image().size() != pixels) terrainCanvas_.Resize(pixels.width(), pixels.height());

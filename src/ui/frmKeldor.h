@@ -76,6 +76,8 @@ class frmKeldor : public QMainWindow {
   // Lays the window out for its current size (snapping back to the minimum).
   void DoResize();
   void ApplyLayout();
+  // Sizes the off-screen canvases to the boxes in device pixels.
+  void ResizeCanvases();
   void ShowControls();
   void ShowFrame();
 
