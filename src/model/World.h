@@ -20,6 +20,7 @@ struct World {
   // Main-window state.
   bool TimerEnabled = false;  // Timer1: off until the first New
   bool Running = false;       // the world advances (Play) or is paused
+  bool TickInProgress = false;  // a tick is running (a modal message may re-enter)
   int16_t MouseButton = 0;    // button of the last press or release on the terrain
   bool MouseHeld = false;
   int16_t AntSizeTwips = 0;

@@ -26,6 +26,9 @@ struct TickContext {
   RandomSource& random;
   TickPainter& painter;
   MessageBox& messages;  // the population-limit message
+  // Pair ants with piles and rivals through a cell index (same results as the
+  // full scans, which remain for comparison).
+  bool UseAntIndex = true;
 };
 
 // Runs one tick. A call made while another tick is still running (from inside

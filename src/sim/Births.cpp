@@ -1,0 +1,62 @@
+#include "sim/Births.h"
+
+#include <cmath>
+
+#include "model/Commands.h"
+#include "model/MessageBox.h"
+#include "model/Numeric.h"
+#include "model/Queries.h"
+#include "model/Random.h"
+#include "model/World.h"
+
+namespace keldor {
+namespace {
+
+// Fills the fields a birth writes; the rest of the slot keeps what it held.
+void BearAnt(World& world, RandomSource& random, Nest& nest, Ant& ant) {
+  const WorldSettings& s = world.Settings;
+  ant.RearX = nest.X;
+  ant.RearY = nest.Y;
+  ant.Length = nest.AntLength;
+  ant.Energy = Int(Pi * ant.Length * ant.Length * (0.9 + 0.1 * random.Rnd()));
+  const double reach = ant.Length / s.ScaleX;
+  const double signX = Int(2 * random.Rnd()) == 0 ? -1.0 : 1.0;
+  ant.HeadX = ant.RearX + signX * random.Rnd() * reach;
+  const double signY = Int(2 * random.Rnd()) == 0 ? -1.0 : 1.0;
+  const double dx = ant.HeadX - ant.RearX;
+  ant.HeadY = ant.RearY + signY * std::sqrt(reach * reach - dx * dx);
+  ant.Angle = 0;
+  ant.CellX = CellOfCoordinate(ant.HeadX, s.CellSize);
+  ant.CellY = CellOfCoordinate(ant.HeadY, s.CellSize);
+  ant.Load = 0;
+  ant.Colour = nest.Colour;
+}
+
+}  // namespace
+
+void BreedNests(World& world, RandomSource& random) {
+  if (!world.Running) return;
+  for (int n = 0; n < world.NestCount; ++n) {
+    Nest& nest = world.Nests[static_cast<size_t>(n)];
+    if (!(nest.Ants[0].Energy > 0)) continue;
+    while (nest.FoodStore >= nest.AntUnit) {
+      // At 32767 ants (in the nest, its cell or the world) births stop and
+      // the store keeps the food until there is room again.
+      Cell& nestCell = world.Cells(nest.CellX, nest.CellY);
+      if (!nest.Ants.CanAppend() || world.Settings.Population == Int16Max || nestCell.AntCount == Int16Max) break;
+      Ant& newborn = nest.Ants.Append();
+      ++world.Settings.Population;
+      ++nestCell.AntCount;
+      BearAnt(world, random, nest, newborn);
+      nest.FoodStore -= nest.AntUnit;
+    }
+  }
+}
+
+void CheckPopulationLimit(World& world, MessageBox& messages) {
+  if (world.Settings.Population != 2000) return;
+  messages.Show("Maximum ant population has been reached.");
+  btnStop_Click(world);
+}
+
+}  // namespace keldor

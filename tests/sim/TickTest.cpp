@@ -1,0 +1,227 @@
+// The tick's phase order, what runs while paused, the population limit and
+// the removal rules of its loops.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+
+#include "SimTestSupport.h"
+#include "model/WorldCreation.h"
+#include "sim/Births.h"
+#include "sim/Editing.h"
+#include "sim/Encounters.h"
+#include "sim/OdorField.h"
+#include "sim/Upkeep.h"
+
+namespace keldor::testing {
+namespace {
+
+TEST(Tick, PainterCallsFollowThePhaseOrder) {
+  TickRig rig(3);
+  RecordingPainter painter;
+  TickContext context{rig.world(), rig.test.random, painter, rig.messages};
+  rig.world().ShowAnts = 1;
+  Timer1_Timer(context);
+  std::vector<std::string> layers;
+  for (const std::string& call : painter.Calls) {
+    if (layers.empty() || layers.back() != call) layers.push_back(call);
+  }
+  const std::vector<std::string> expected{"ClearViews", "DrawCell",       "DrawWalls",     "DrawNests", "DrawFoodPiles",
+                                          "DrawAnt",    "DrawViewFrames", "DrawZoomLabel", "FinishFrame"};
+  EXPECT_EQ(layers, expected);
+
+  painter.Calls.clear();
+  rig.world().ShowAnts = 0;
+  Timer1_Timer(context);
+  EXPECT_EQ(std::count(painter.Calls.begin(), painter.Calls.end(), "DrawAnt"), 0);
+  EXPECT_GT(std::count(painter.Calls.begin(), painter.Calls.end(), "DrawCell"), 0) << "cells with ants are drawn";
+}
+
+TEST(Tick, PausedWorldKeepsScentFoodAndAntsButClampsAndEmits) {
+  TickRig rig(4);
+  World& world = rig.world();
+  for (int i = 0; i < 50; ++i) {
+    world.Running = true;
+    rig.Tick();
+  }
+  world.Running = false;
+  Cell& over = world.Cells(2, 2);
+  over.Scent = world.Settings.FoodScentMax + 40;
+  const FoodPile pile = world.FoodPiles[0];
+  world.Cells(world.FoodPiles[1].X, world.FoodPiles[1].Y).Food = 0;  // emptied by the food tool
+  const int16_t piles = world.FoodPileCount();
+  const std::vector<Ant> ants(world.Nests[0].Ants.begin(), world.Nests[0].Ants.end());
+  const double nestScent = world.Cells(world.Nests[0].CellX, world.Nests[0].CellY).Scent;
+  rig.Tick();
+  EXPECT_EQ(over.Scent, world.Settings.FoodScentMax);
+  EXPECT_EQ(world.FoodPileCount(), piles - 1);
+  EXPECT_EQ(world.FoodPiles[0].Amount, pile.Amount);
+  EXPECT_EQ(std::vector<Ant>(world.Nests[0].Ants.begin(), world.Nests[0].Ants.end()), ants);
+  EXPECT_EQ(world.Cells(world.Nests[0].CellX, world.Nests[0].CellY).Scent, nestScent);
+  const FoodPile& first = world.FoodPiles[0];
+  const double emission = Int(world.Settings.FoodScentMax * first.Amount / world.Settings.CellFoodCapacity());
+  EXPECT_GE(std::abs(world.Cells(first.X, first.Y).Scent), emission);
+}
+
+TEST(Tick, RunningScentAboveTheMaximumIsClampedThenDecays) {
+  TickRig rig;
+  World& world = rig.world();
+  world.Running = true;
+  Cell& cell = world.Cells(3, 3);
+  cell.Scent = world.Settings.FoodScentMax + 5;
+  CellUpdate(world, rig.nullPainter);
+  EXPECT_EQ(cell.Scent, world.Settings.FoodScentMax - 1);
+}
+
+TEST(Tick, WallCellEndsThePassUnscented) {
+  TickRig rig;
+  World& world = rig.world();
+  ASSERT_TRUE(AddWallAt(world, 5, 5));
+  world.Cells(5, 5).Scent = -120;
+  world.Cells(5, 5).Signature = Signature(std::string_view("1010101010101010"));
+  CellUpdate(world, rig.nullPainter);
+  EXPECT_EQ(world.Cells(5, 5).Scent, 0);
+  EXPECT_EQ(world.Cells(5, 5).Signature, Signature::Unmarked());
+}
+
+TEST(Tick, ScentColourSpansItsRanges) {
+  EXPECT_EQ(ScentColour(500, 500, 250), Rgb(116, 168, 116));
+  EXPECT_EQ(ScentColour(-250, 500, 250), Rgb(139, 129, 103));
+  EXPECT_EQ(ScentColour(0, 500, 250), Rgb(200, 172, 145));
+}
+
+TEST(Population, LimitMessageOnlyAtExactly2000AndNoNestedTick) {
+  TickRig rig;
+  World& world = rig.world();
+  rig.messages.Reenter = &rig.context;
+  world.Settings.Population = 1999;
+  CheckPopulationLimit(world, rig.messages);
+  EXPECT_TRUE(rig.messages.Shown.empty());
+  world.Running = true;
+  world.Settings.Population = 2000;
+  world.TickInProgress = true;
+  CheckPopulationLimit(world, rig.messages);
+  world.TickInProgress = false;
+  ASSERT_EQ(rig.messages.Shown.size(), 1u);
+  EXPECT_EQ(rig.messages.Shown[0], "Maximum ant population has been reached.");
+  EXPECT_FALSE(rig.messages.NestedTickStarted);
+  EXPECT_FALSE(world.Running);
+  rig.messages.Reenter = nullptr;
+  CheckPopulationLimit(world, rig.messages);
+  EXPECT_TRUE(world.Running) << "the pause button is pressed again";
+}
+
+TEST(Population, LimitReachedInsideATickStopsItsBirths) {
+  TickRig rig;
+  World& world = rig.world();
+  rig.messages.Reenter = &rig.context;
+  world.Running = true;
+  Nest& nest = world.Nests[0];
+  nest.FoodStore = 3 * nest.AntUnit;
+  world.Settings.Population = 2000;
+  world.NestCount = 1;
+  const int16_t before = nest.AntCount();
+  rig.Tick();
+  EXPECT_EQ(rig.messages.Shown.size(), 1u);
+  EXPECT_FALSE(rig.messages.NestedTickStarted);
+  EXPECT_FALSE(world.Running);
+  EXPECT_EQ(world.Nests[0].AntCount(), before);
+}
+
+TEST(Population, ThreeBirthsFromThreeAndAHalfUnits) {
+  TickRig rig;
+  World& world = rig.world();
+  world.Running = true;
+  Nest& nest = world.Nests[0];
+  nest.FoodStore = 3.5 * nest.AntUnit;
+  const int16_t ants = nest.AntCount();
+  const int16_t population = world.Settings.Population;
+  const int16_t cellAnts = world.Cells(nest.CellX, nest.CellY).AntCount;
+  BreedNests(world, rig.test.random);
+  EXPECT_EQ(nest.AntCount(), ants + 3);
+  EXPECT_EQ(world.Settings.Population, population + 3);
+  EXPECT_EQ(world.Cells(nest.CellX, nest.CellY).AntCount, cellAnts + 3);
+  EXPECT_NEAR(nest.FoodStore, 0.5 * nest.AntUnit, 1e-9);
+  const Ant& newborn = nest.Ants[nest.AntCount() - 1];
+  EXPECT_NEAR(std::hypot(newborn.HeadX - nest.X, newborn.HeadY - nest.Y), newborn.Length / world.Settings.ScaleX, 1e-9);
+
+  nest.Ants[0].Energy = 0;
+  nest.FoodStore = 5 * nest.AntUnit;
+  BreedNests(world, rig.test.random);
+  EXPECT_EQ(nest.AntCount(), ants + 3) << "a dead queen breeds no more";
+}
+
+TEST(Encounters, BiteNeverKillsAndNeedsACrowd) {
+  TickRig rig;
+  World& world = rig.world();
+  world.Running = true;
+  world.CursorCellX = 10;
+  world.CursorCellY = 10;
+  ASSERT_TRUE(CreateNest(world, rig.test.random));
+  Nest& home = world.Nests[0];
+  Nest& rival = world.Nests[1];
+  Ant& biter = home.Ants[1];
+  Ant& victim = rival.Ants[1];
+  victim.RearX = biter.HeadX - 1;
+  victim.RearY = biter.HeadY;
+  victim.HeadX = biter.HeadX + 1;
+  victim.HeadY = biter.HeadY;
+  victim.Energy = 0.4;
+  biter.Load = 0;
+  Cell& cell = world.Cells(biter.CellX, biter.CellY);
+  cell.AntCount = 2;
+  ResolveEncounter(world, cell, 0, 1);
+  EXPECT_EQ(victim.Energy, 0.4) << "two ants never fight";
+  cell.AntCount = 3;
+  cell.Scent = -40;
+  ResolveEncounter(world, cell, 0, 1);
+  EXPECT_EQ(victim.Energy, 1);
+  EXPECT_EQ(victim.Colour, Rgb(255, 0, 0));
+  EXPECT_EQ(cell.Scent, 1) << "with the food-scent slider at 0 the mark is 1";
+  victim.Energy = 5;
+  biter.Load = 1;
+  ResolveEncounter(world, cell, 0, 1);
+  EXPECT_EQ(victim.Energy, 5) << "a carrying ant does not bite";
+}
+
+TEST(Upkeep, RemovalVisitsTheMovedRecord) {
+  TickRig rig;
+  World& world = rig.world();
+  world.Running = true;
+  Nest& nest = world.Nests[0];
+  const int16_t count = nest.AntCount();
+  const double corpse = -nest.AntUnit / 4;
+  nest.Ants[1].Energy = corpse;                 // removed; the last ant moves into slot 1
+  nest.Ants[count - 1].Energy = corpse;          // the moved ant must be removed too
+  nest.Ants[count - 1].LifeFactor = 0.5;
+  const int16_t population = world.Settings.Population;
+  AntUpkeep(world);
+  EXPECT_EQ(nest.AntCount(), count - 2);
+  EXPECT_EQ(world.Settings.Population, population) << "bodies were counted out at death";
+  for (const Ant& ant : nest.Ants) EXPECT_GT(ant.Energy, corpse);
+}
+
+TEST(Upkeep, QueenAsLastAntTakesHerNestAndTheMovedNestIsProcessed) {
+  TickRig rig;
+  World& world = rig.world();
+  world.Running = true;
+  world.CursorCellX = 5;
+  world.CursorCellY = 5;
+  ASSERT_TRUE(CreateNest(world, rig.test.random));
+  Nest& first = world.Nests[0];
+  first.Ants.Reset(1);
+  first.Ants[0].Energy = -first.AntUnit;
+  first.Ants[0].CellX = first.CellX;
+  first.Ants[0].CellY = first.CellY;
+  Nest& second = world.Nests[1];
+  second.Ants[2].Energy = -second.AntUnit;
+  const int16_t secondCount = second.AntCount();
+  const double secondX = second.X;
+  AntUpkeep(world);
+  ASSERT_EQ(world.NestCount, 1);
+  EXPECT_EQ(world.Nests[0].X, secondX);
+  EXPECT_EQ(world.Nests[0].AntCount(), secondCount - 1);
+}
+
+}  // namespace
+}  // namespace keldor::testing
