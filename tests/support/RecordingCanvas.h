@@ -1,0 +1,83 @@
+// A canvas that draws nothing and records every call with the pen state at
+// that moment, so tests can check what a view was asked to draw and in which
+// order.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "render/Canvas.h"
+
+namespace keldor::testing {
+
+enum class CanvasOp { SetScale, Cls, Line, Box, Circle, Print };
+
+struct CanvasCall {
+  CanvasOp Op = CanvasOp::Cls;
+  double X1 = 0;  // Line/Box first corner; Circle centre
+  double Y1 = 0;
+  double X2 = 0;  // Line/Box second corner; Circle radius in X2
+  double Y2 = 0;
+  double Colour = 0;
+  std::string Text;  // Print
+  PenState Pen;      // the pen when the call was made
+};
+
+class RecordingCanvas : public Canvas {
+ public:
+  void SetScale(const ViewScale& scale) override {
+    Scale = scale;
+    Record(CanvasOp::SetScale, scale.Left, scale.Top, scale.Width, scale.Height);
+  }
+  void Cls() override { Record(CanvasOp::Cls); }
+  void Line(double x1, double y1, double x2, double y2, double colour) override {
+    Record(CanvasOp::Line, x1, y1, x2, y2, colour);
+  }
+  void Box(double x1, double y1, double x2, double y2, double colour) override {
+    Record(CanvasOp::Box, x1, y1, x2, y2, colour);
+  }
+  void Circle(double x, double y, double radius, double colour) override {
+    Record(CanvasOp::Circle, x, y, radius, 0, colour);
+  }
+  void Print(std::string_view text) override {
+    Record(CanvasOp::Print, Pen.CurrentX, Pen.CurrentY, 0, 0, 0, text);
+  }
+
+  // The recorded calls of one kind, in order.
+  std::vector<CanvasCall> Of(CanvasOp op) const {
+    std::vector<CanvasCall> found;
+    for (const CanvasCall& c : Calls) {
+      if (c.Op == op) found.push_back(c);
+    }
+    return found;
+  }
+  // The drawing calls (everything but SetScale), in order.
+  std::vector<CanvasCall> Drawing() const {
+    std::vector<CanvasCall> found;
+    for (const CanvasCall& c : Calls) {
+      if (c.Op != CanvasOp::SetScale) found.push_back(c);
+    }
+    return found;
+  }
+  void Forget() { Calls.clear(); }
+
+  std::vector<CanvasCall> Calls;
+  ViewScale Scale;
+
+ private:
+  void Record(CanvasOp op, double x1 = 0, double y1 = 0, double x2 = 0, double y2 = 0, double colour = 0,
+              std::string_view text = {}) {
+    CanvasCall& call = Calls.emplace_back();
+    call.Op = op;
+    call.X1 = x1;
+    call.Y1 = y1;
+    call.X2 = x2;
+    call.Y2 = y2;
+    call.Colour = colour;
+    call.Text = std::string(text);
+    call.Pen = Pen;
+  }
+};
+
+}  // namespace keldor::testing
