@@ -1,0 +1,62 @@
+// The Qt canvas of a view: draws on an off-screen RGB32 image whose whole area
+// shows the canvas's user scale rectangle. The image is in device pixels:
+// width x height logical pixels times the device pixel ratio. Text sizes are
+// in points (20 twips) on a 96 dpi screen (15 twips per logical pixel).
+//
+// Small circles and printed numbers are blended from cached sprites, boxes and
+// axis-aligned lines are written straight into the image; only large circles
+// and slanted lines go through QPainter. Shapes wholly off the image are skipped.
+#pragma once
+
+#include <QImage>
+#include <QRgb>
+
+#include "platform/DiscSprites.h"
+#include "platform/TextSprites.h"
+#include "render/Canvas.h"
+
+namespace keldor {
+
+inline constexpr double TwipsPerPixel = 15;
+inline constexpr double TwipsPerPoint = 20;
+
+class QtCanvas : public Canvas {
+ public:
+  // A canvas of width x height logical pixels; its scale starts as the same
+  // area in twips.
+  QtCanvas(int width, int height, double devicePixelRatio = 1);
+
+  void SetScale(const ViewScale& scale) override;
+  void Cls() override;
+  void Line(double x1, double y1, double x2, double y2, double colour) override;
+  void Box(double x1, double y1, double x2, double y2, double colour) override;
+  void Circle(double x, double y, double radius, double colour) override;
+  void Print(std::string_view text) override;
+
+  // The drawn frame, in device pixels.
+  const QImage& Image() const { return image_; }
+  double DevicePixelRatio() const { return devicePixelRatio_; }
+  // New size in logical pixels; the image is cleared to the background.
+  void Resize(int width, int height);
+
+  static QRgb ToQRgb(double colour);
+
+ private:
+  double PixelX(double x) const { return (x - scale_.Left) * pixelsPerUnitX_; }
+  double PixelY(double y) const { return (y - scale_.Top) * pixelsPerUnitY_; }
+  int LineWidthPixels() const;
+  // Fills the pixel rectangle x0..x1 by y0..y1 (inclusive), clipped to the image.
+  void FillPixels(double x0, double y0, double x1, double y1, QRgb colour);
+  void PaintLargeCircle(double cx, double cy, double radius, QRgb outline);
+  void PaintSlantedLine(double x1, double y1, double x2, double y2, QRgb colour);
+
+  QImage image_;
+  double devicePixelRatio_;
+  ViewScale scale_;
+  double pixelsPerUnitX_ = 1;
+  double pixelsPerUnitY_ = 1;
+  DiscSprites discs_;
+  TextSprites texts_;
+};
+
+}  // namespace keldor
