@@ -10,7 +10,6 @@
 #include <cmath>
 
 #include "model/Commands.h"
-#include "model/Numeric.h"
 #include "model/OptionsForm.h"
 #include "model/Viewport.h"
 #include "platform/QtProgramStarter.h"
@@ -30,8 +29,6 @@ namespace {
 // First outer size of the window, twips.
 constexpr double InitialWidth = 10200;
 constexpr double InitialHeight = 8400;
-// RGB(185, 172, 145): the background of both views.
-const double ViewBackground = Rgb(185, 172, 145);
 
 enum MouseKind { Press, Move, Release };
 
@@ -54,8 +51,8 @@ frmKeldor::frmKeldor(MessageBox& messages, Clock& clock, QWidget* parent)
       scale_(TwipScale::ForWidget(*this)),
       registry_(MakeSystemRegistry()),
       starter_(std::make_unique<QtProgramStarter>()),
-      terrainCanvas_(1, 1, ViewBackground),
-      mapCanvas_(scale_.Pixels(MapBox.Width), scale_.Pixels(MapBox.Height), ViewBackground),
+      terrainCanvas_(1, 1, devicePixelRatioF()),
+      mapCanvas_(scale_.Pixels(MapBox.Width), scale_.Pixels(MapBox.Height), devicePixelRatioF()),
       painter_(terrainCanvas_, mapCanvas_) {
   setObjectName("frmKeldor");
   setWindowTitle(ApplicationTitle);
@@ -332,11 +329,12 @@ void frmKeldor::ResizeCanvases() {
   // A tick may be waiting inside the population-limit message, halfway
   // through its drawing: the canvases follow the boxes once it is done.
   if (inTick_) return;
-  const qreal ratio = devicePixelRatioF();
-  const QSize pixels = picTerreno_->size() * ratio;
-  if (terrainCanvas_.Image().size() != pixels) terrainCanvas_.Resize(pixels.width(), pixels.height());
-  const QSize mapPixels = picMapa_->size() * ratio;
-  if (mapCanvas_.Image().size() != mapPixels) mapCanvas_.Resize(mapPixels.width(), mapPixels.height());
+  const QSize terrain = picTerreno_->size();
+  if (terrainCanvas_.Image().size() != terrain * terrainCanvas_.DevicePixelRatio()) {
+    terrainCanvas_.Resize(terrain.width(), terrain.height());
+  }
+  const QSize map = picMapa_->size();
+  if (mapCanvas_.Image().size() != map * mapCanvas_.DevicePixelRatio()) mapCanvas_.Resize(map.width(), map.height());
 }
 
 void frmKeldor::ShowControls() {
