@@ -40,6 +40,8 @@ struct World {
   // While the options dialog is open, the position of its "Nest Scent" slider.
   bool OptionsOpen = false;
   int16_t OptionsNestTraceValue = 0;
+  // Grid size confirmed in the options dialog, waiting for the next New (0: none).
+  int16_t PendingGridSize = 0;
 
   Viewport View;
   ControlState Controls;

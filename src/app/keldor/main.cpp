@@ -1,0 +1,27 @@
+// keldor: the desktop program. The splash screen comes first and hands over
+// to the main window; the process ends when the last window closes.
+#include <QApplication>
+#include <memory>
+
+#include "platform/QtMessageBox.h"
+#include "platform/SystemClock.h"
+#include "ui/AppTexts.h"
+#include "ui/ButtonPictures.h"
+#include "ui/frmKeldor.h"
+#include "ui/frmSplash.h"
+
+int main(int argc, char* argv[]) {
+  QApplication app(argc, argv);
+  QApplication::setApplicationName(keldor::ApplicationTitle);
+  QApplication::setWindowIcon(keldor::AppIcon());
+
+  keldor::SystemClock clock;
+  keldor::QtMessageBox messages;
+  std::unique_ptr<keldor::frmKeldor> main;
+  auto* splash = new keldor::frmSplash([&] {
+    main = std::make_unique<keldor::frmKeldor>(messages, clock);
+    main->show();
+  });
+  splash->show();
+  return app.exec();
+}

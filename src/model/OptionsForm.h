@@ -1,0 +1,101 @@
+// The options dialog without a toolkit: its fields as the user sees them, the
+// corrections made while the user types, what is taken over at once and what
+// only on OK, and what the next New reads from it. The Qt dialog is a thin
+// shell over this class.
+//
+// Open points decided here:
+//  - An edited grid size is taken over on OK and kept in the world until the
+//    next New builds a grid of that size; reopening the dialog shows it.
+//  - The grid box holds only MinGridSize..MaxGridSize: a number outside is
+//    replaced by the nearest size the program can build.
+//  - OK with a colour box that holds no number keeps that colour component as
+//    it was; nothing is made up from an unreadable text.
+#pragma once
+
+#include <string>
+
+#include "model/WorldCreation.h"
+
+namespace keldor {
+
+struct World;
+class RandomSource;
+
+enum class ColourBox { Red = 0, Green = 1, Blue = 2 };
+
+// Slider ranges as the user sees them.
+struct SliderRange {
+  int Min;
+  int Max;
+};
+inline constexpr SliderRange LifeSpanRange{1, 100};
+inline constexpr SliderRange FoodRateRange{0, 100};
+inline constexpr SliderRange TraceRange{1, 500};
+
+// Population text for letters or an empty box.
+inline constexpr int DefaultAntsPerNestText = 30;
+// Ant size taken over while its box holds no number.
+inline constexpr double DefaultAntSizeMm = 3.0;
+// Body units (twips) per millimetre.
+inline constexpr double TwipsPerMm = 56.7;
+
+class OptionsForm {
+ public:
+  // Opens the dialog: fills every field from the settings (running the text
+  // handlers, as loading does) and lets the tick read the nest-scent slider.
+  explicit OptionsForm(World& world);
+  // Closing unloads the dialog: the tick reads NestScentMax again.
+  ~OptionsForm();
+  OptionsForm(const OptionsForm&) = delete;
+  OptionsForm& operator=(const OptionsForm&) = delete;
+
+  const std::string& NumAntsText() const { return numAnts_; }
+  const std::string& AntSizeText() const { return antSize_; }
+  const std::string& ColourText(ColourBox box) const { return colour_[static_cast<int>(box)]; }
+  const std::string& GridDimXText() const { return gridX_; }
+  const std::string& GridDimYText() const { return gridY_; }
+  int LifeSpan() const { return lifeSpan_; }
+  int FoodRate() const { return foodRate_; }
+  int FoodTrace() const { return foodTrace_; }
+  int NestTrace() const { return nestTrace_; }
+  // picAntColor's background: the colour the three boxes make.
+  double PreviewColour() const { return preview_; }
+
+  // Change handlers: each takes the text as typed and leaves the corrected
+  // text in the field (the window shows it with the caret at its end).
+  void txtNumAnts_Change(const std::string& text);
+  void txtAntSize_Change(const std::string& text);
+  void txtAntsColour_Change(ColourBox box, const std::string& text);
+  void txtGridDimX_Change(const std::string& text);
+  void sliLifeSpan_Change(int value);
+  void sliFoodRate_Change(int value);
+  void sliFoodTrace_Change(int value);
+  void sliNestTrace_Change(int value);
+
+  // OK: the colour components, life span, food rate and grid size.
+  void ApplyOptions();
+
+ private:
+  World& world_;
+  std::string numAnts_;
+  std::string antSize_;
+  std::string colour_[3];
+  std::string gridX_;
+  std::string gridY_;
+  int lifeSpan_ = 0;
+  int foodRate_ = 0;
+  int foodTrace_ = 0;
+  int nestTrace_ = 0;
+  double preview_ = 0;
+};
+
+// What New reads from the options dialog as it would be filled now: the grid
+// size waiting from the last OK (else the current one), the ant size and the
+// life span.
+NewWorldInputs OptionsNewWorldInputs(const World& world);
+
+// New as the File menu and the Start button run it: reads the dialog's values
+// and uses up the waiting grid size.
+void NewFromOptions(World& world, RandomSource& random);
+
+}  // namespace keldor

@@ -1,0 +1,400 @@
+#include "ui/frmKeldor.h"
+
+#include <QCloseEvent>
+#include <QFrame>
+#include <QLabel>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QScrollBar>
+#include <algorithm>
+#include <cmath>
+
+#include "model/Commands.h"
+#include "model/OptionsForm.h"
+#include "model/Viewport.h"
+#include "platform/QtProgramStarter.h"
+#include "platform/SystemRegistry.h"
+#include "sim/TerrainTools.h"
+#include "sim/Tick.h"
+#include "ui/AppTexts.h"
+#include "ui/ButtonPictures.h"
+#include "ui/PictureBox.h"
+#include "ui/frmAbout.h"
+#include "ui/frmOptions.h"
+
+namespace keldor {
+
+namespace {
+
+// First outer size of the window, twips.
+constexpr double InitialWidth = 10200;
+constexpr double InitialHeight = 8400;
+
+enum MouseKind { Press, Move, Release };
+
+QString CssColour(double rgb) {
+  const long v = static_cast<long>(rgb);
+  return QColor(v & 0xFF, (v >> 8) & 0xFF, (v >> 16) & 0xFF).name();
+}
+
+void SetToolTip(QWidget* widget, const std::string& text) {
+  const QString tip = QString::fromStdString(text);
+  if (widget->toolTip() != tip) widget->setToolTip(tip);
+}
+
+}  // namespace
+
+frmKeldor::frmKeldor(MessageBox& messages, Clock& clock, QWidget* parent)
+    : QMainWindow(parent),
+      messages_(messages),
+      random_(clock),
+      scale_(TwipScale::ForWidget(*this)),
+      registry_(MakeSystemRegistry()),
+      starter_(std::make_unique<QtProgramStarter>()),
+      terrainCanvas_(1, 1, devicePixelRatioF()),
+      mapCanvas_(scale_.Pixels(MapBox.Width), scale_.Pixels(MapBox.Height), devicePixelRatioF()),
+      painter_(terrainCanvas_, mapCanvas_) {
+  setObjectName("frmKeldor");
+  setWindowTitle(ApplicationTitle);
+  setWindowIcon(AppIcon());
+  auto* central = new QWidget(this);
+  setCentralWidget(central);
+  BuildMenus();
+  BuildTerrain(central);
+  BuildButtonBar(central);
+  BuildPalette(central);
+  BuildInfoPanel(central);
+
+  Form_Load(world_);
+  timer1_.setInterval(Timer1IntervalMs);
+  connect(&timer1_, &QTimer::timeout, this, &frmKeldor::Timer1_Timer);
+  resize(scale_.Pixels(InitialWidth), scale_.Pixels(InitialHeight));
+  DoResize();
+}
+
+frmKeldor::~frmKeldor() = default;
+
+void frmKeldor::BuildMenus() {
+  QMenu* file = menuBar()->addMenu("&File");
+  QAction* mnuFileNew = file->addAction("&New", this, [this] { Run([this] { mnuFileNew_Click(); }); });
+  mnuFileNew->setObjectName("mnuFileNew");
+  QAction* mnuFileExit = file->addAction("&Exit", this, [this] { close(); });
+  mnuFileExit->setObjectName("mnuFileExit");
+
+  QMenu* tools = menuBar()->addMenu("&Tools");
+  QMenu* view = tools->addMenu("&View");
+  view->menuAction()->setObjectName("mnuView");
+  mnuButtons_ = view->addAction("&Buttons", this, [this] { Run([this] { mnuButtons_Click(world_, layout_); }); });
+  mnuButtons_->setObjectName("mnuButtons");
+  mnuButtons_->setCheckable(true);
+  mnuInfo_ = view->addAction("&Info", this, [this] { Run([this] { mnuInfo_Click(world_, layout_); }); });
+  mnuInfo_->setObjectName("mnuInfo");
+  mnuInfo_->setCheckable(true);
+  QAction* mnuOptions = tools->addAction("&Options...", this, [this] { mnuOptions_Click(); });
+  mnuOptions->setObjectName("mnuOptions");
+
+  QMenu* help = menuBar()->addMenu("&Help");
+  QAction* mnuHelpAbout = help->addAction("&About...", this, [this] { mnuHelpAbout_Click(); });
+  mnuHelpAbout->setObjectName("mnuHelpAbout");
+}
+
+QPushButton* frmKeldor::AddBarButton(QWidget* bar, const char* name, double left, const char* toolTip) {
+  auto* button = new QPushButton(bar);
+  button->setObjectName(name);
+  button->setToolTip(toolTip);
+  button->setFocusPolicy(Qt::NoFocus);
+  button->setGeometry(scale_.Rect({left, BarButtonTop, BarButtonSize, BarButtonSize}));
+  button->setIconSize(button->size() * 0.7);
+  return button;
+}
+
+void frmKeldor::BuildButtonBar(QWidget* central) {
+  fraButtonBar_ = new QFrame(central);
+  fraButtonBar_->setObjectName("fraButtonBar");
+  fraButtonBar_->setFrameShape(QFrame::StyledPanel);
+  btnStart_ = AddBarButton(fraButtonBar_, "btnStart", StartLeft, "Start new simulation");
+  btnStart_->setIcon(ButtonIcon(ButtonPicture::Start));
+  connect(btnStart_, &QPushButton::clicked, this, [this] {
+    Run([this] {
+      CollapsePalette(world_);
+      mnuFileNew_Click();
+    });
+  });
+  btnStop_ = AddBarButton(fraButtonBar_, "btnStop", StopLeft, "Pause");
+  connect(btnStop_, &QPushButton::clicked, this, [this] { Run([this] { btnStop_Click(world_); }); });
+  cmdZoomIn_ = AddBarButton(fraButtonBar_, "cmdZoomIn", ZoomInLeft, "Zoom In");
+  cmdZoomIn_->setIcon(ButtonIcon(ButtonPicture::ZoomIn));
+  connect(cmdZoomIn_, &QPushButton::clicked, this, [this] { Run([this] { cmdZoomIn_Click(world_); }); });
+  cmdZoomOut_ = AddBarButton(fraButtonBar_, "cmdZoomOut", ZoomOutLeft, "Zoom Out");
+  cmdZoomOut_->setIcon(ButtonIcon(ButtonPicture::ZoomOut));
+  connect(cmdZoomOut_, &QPushButton::clicked, this, [this] { Run([this] { cmdZoomOut_Click(world_); }); });
+  btnInfo_ = AddBarButton(fraButtonBar_, "btnInfo", InfoButtonLeft, "Toggle Info");
+  btnInfo_->setIcon(ButtonIcon(ButtonPicture::Info));
+  connect(btnInfo_, &QPushButton::clicked, this, [this] { Run([this] { btnInfo_Click(world_, layout_); }); });
+  btnOdor_ = AddBarButton(fraButtonBar_, "btnOdor", OdorLeft, "");
+  btnOdor_->setIcon(ButtonIcon(ButtonPicture::Odor));
+  connect(btnOdor_, &QPushButton::clicked, this, [this] { Run([this] { btnOdor_Click(world_); }); });
+  btnAnts_ = AddBarButton(fraButtonBar_, "btnAnts", AntsLeft, "");
+  btnAnts_->setIcon(ButtonIcon(ButtonPicture::Ants));
+  connect(btnAnts_, &QPushButton::clicked, this, [this] { Run([this] { btnAnts_Click(world_); }); });
+
+  const char* quickTips[2] = {"Toggle Button Bar", "Toggle Info"};
+  for (int i = 0; i < 2; ++i) {
+    auto* quick = new QPushButton(central);
+    quick->setObjectName(QString("btnQuick_%1").arg(i + 1));
+    quick->setToolTip(quickTips[i]);
+    quick->setFocusPolicy(Qt::NoFocus);
+    connect(quick, &QPushButton::clicked, this, [this, i] { Run([this, i] { btnQuick_Click(world_, layout_, i + 1); }); });
+    btnQuick_[i] = quick;
+  }
+}
+
+void frmKeldor::BuildPalette(QWidget* central) {
+  fraActions_ = new QFrame(central);
+  fraActions_->setObjectName("fraActions");
+  fraActions_->setFrameShape(QFrame::StyledPanel);
+  fraActions_->setAutoFillBackground(true);
+  const ButtonPicture pictures[5] = {ButtonPicture::NoTool, ButtonPicture::FoodTool, ButtonPicture::WallTool,
+                                     ButtonPicture::RemoveAntsTool, ButtonPicture::NestTool};
+  const char* tips[5] = {"", "Add/Remove food", "Add/Remove plaster brick", "Remove ants", "Add/Remove nest"};
+  for (int i = 0; i < 5; ++i) {
+    auto* button = new QPushButton(fraActions_);
+    button->setObjectName(QString("btnAction_%1").arg(i));
+    button->setToolTip(tips[i]);
+    button->setIcon(ButtonIcon(pictures[i]));
+    button->setFocusPolicy(Qt::NoFocus);
+    connect(button, &QPushButton::clicked, this, [this, i] { Run([this, i] { btnAction_Click(world_, i); }); });
+    btnAction_[i] = button;
+  }
+  btnPickAction_ = new QPushButton("v", central);
+  btnPickAction_->setObjectName("btnPickAction");
+  btnPickAction_->setToolTip("Show/Hide actions");
+  btnPickAction_->setFocusPolicy(Qt::NoFocus);
+  connect(btnPickAction_, &QPushButton::clicked, this, [this] { Run([this] { btnPickAction_Click(world_); }); });
+}
+
+void frmKeldor::BuildTerrain(QWidget* central) {
+  picTerreno_ = new PictureBox(central);
+  picTerreno_->setObjectName("picTerreno");
+  connect(picTerreno_, &PictureBox::MouseDown, this, [this](int b, QPointF p) { TerrainMouse(Press, b, p); });
+  connect(picTerreno_, &PictureBox::MouseMove, this, [this](int b, QPointF p) { TerrainMouse(Move, b, p); });
+  connect(picTerreno_, &PictureBox::MouseUp, this, [this](int b, QPointF p) { TerrainMouse(Release, b, p); });
+  hScroll1_ = new QScrollBar(Qt::Horizontal, central);
+  hScroll1_->setObjectName("HScroll1");
+  vScroll1_ = new QScrollBar(Qt::Vertical, central);
+  vScroll1_->setObjectName("VScroll1");
+  connect(hScroll1_, &QScrollBar::valueChanged, this, &frmKeldor::ScrollBarMoved);
+  connect(vScroll1_, &QScrollBar::valueChanged, this, &frmKeldor::ScrollBarMoved);
+}
+
+void frmKeldor::BuildInfoPanel(QWidget* central) {
+  fraInfo_ = new QFrame(central);
+  fraInfo_->setObjectName("fraInfo");
+  fraInfo_->setFrameShape(QFrame::StyledPanel);
+  picMapa_ = new PictureBox(fraInfo_);
+  picMapa_->setObjectName("picMapa");
+  picMapa_->setGeometry(scale_.Rect(MapBox));
+  connect(picMapa_, &PictureBox::MouseMove, this, [this](int b, QPointF p) { MapMouse(false, b, p); });
+  connect(picMapa_, &PictureBox::MouseUp, this, [this](int b, QPointF p) { MapMouse(true, b, p); });
+  auto* label1 = new QLabel("Population:", fraInfo_);
+  label1->setObjectName("Label1");
+  label1->setGeometry(scale_.Rect({90, 2280, 1050, 255}));
+  lblPop_ = new QLabel("0000", fraInfo_);
+  lblPop_->setObjectName("lblPop");
+  lblPop_->setGeometry(scale_.Rect({1140, 2280, 950, 255}));
+}
+
+template <typename Command>
+void frmKeldor::Run(Command command) {
+  command();
+  ApplyLayout();
+  ShowControls();
+}
+
+void frmKeldor::mnuFileNew_Click() { NewFromOptions(world_, random_); }
+
+void frmKeldor::mnuOptions_Click() {
+  frmOptions dialog(world_, this);
+  options_ = &dialog;
+  dialog.exec();
+  ShowControls();
+}
+
+void frmKeldor::mnuHelpAbout_Click() {
+  frmAbout dialog(*registry_, *starter_, messages_, this);
+  dialog.exec();
+}
+
+void frmKeldor::TerrainMouse(int kind, int buttons, QPointF pixel) {
+  if (!world_.HasWorld()) return;
+  const float x = static_cast<float>(world_.View.Terrain.Left + scale_.Twips(pixel.x()));
+  const float y = static_cast<float>(world_.View.Terrain.Top + scale_.Twips(pixel.y()));
+  if (kind == Press) {
+    // The press acts on the cell under the pointer, even without a move before it.
+    picTerreno_MouseMove(world_, 0, x, y);
+    picTerreno_MouseDown(world_, random_, buttons);
+  } else if (kind == Move) {
+    picTerreno_MouseMove(world_, buttons, x, y);
+  } else {
+    picTerreno_MouseUp(world_, buttons);
+  }
+}
+
+void frmKeldor::MapMouse(bool release, int buttons, QPointF pixel) {
+  if (!release && buttons == 0) return;
+  const ViewScale& map = world_.View.Map;
+  const double x = map.Left + pixel.x() * map.Width / picMapa_->width();
+  const double y = map.Top + pixel.y() * map.Height / picMapa_->height();
+  NavigateFromMap(world_, x, y);
+  ShowControls();
+}
+
+void frmKeldor::ScrollBarMoved() {
+  if (showing_) return;
+  SetHScrollValue(world_, hScroll1_->value());
+  SetVScrollValue(world_, vScroll1_->value());
+  ShowControls();
+}
+
+void frmKeldor::Timer1_Timer() {
+  // The population-limit message is modal: Timer1 keeps firing inside it,
+  // and those ticks are skipped.
+  if (inTick_) return;
+  inTick_ = true;
+  TickContext context{world_, random_, painter_, messages_};
+  keldor::Timer1_Timer(context);
+  inTick_ = false;
+  ++ticksRun_;
+  ShowFrame();
+  ResizeCanvases();
+  ShowControls();
+}
+
+void frmKeldor::ShowFrame() {
+  picTerreno_->SetFrame(terrainCanvas_.Image());
+  if (world_.Controls.InfoVisible) picMapa_->SetFrame(mapCanvas_.Image());
+}
+
+void frmKeldor::resizeEvent(QResizeEvent* event) {
+  QMainWindow::resizeEvent(event);
+  DoResize();
+}
+
+void frmKeldor::closeEvent(QCloseEvent* event) {
+  // Closing by any route unloads the options dialog too.
+  if (options_) options_->reject();
+  timer1_.stop();
+  event->accept();
+}
+
+void frmKeldor::DoResize() {
+  if (isMinimized()) return;
+  const QRect outer = frameGeometry();
+  const double width = scale_.Twips(outer.width());
+  const double height = scale_.Twips(outer.height());
+  Form_Resize(world_, layout_, width, height);
+  if (layout_.Width > width || layout_.Height > height) {
+    const int growX = static_cast<int>(std::ceil((layout_.Width - width) / scale_.TwipsPerPixel()));
+    const int growY = static_cast<int>(std::ceil((layout_.Height - height) / scale_.TwipsPerPixel()));
+    resize(this->width() + growX, this->height() + growY);
+  }
+  ApplyLayout();
+  ShowControls();
+}
+
+void frmKeldor::ApplyLayout() {
+  const ControlState& c = world_.Controls;
+  fraButtonBar_->setGeometry(scale_.Rect(layout_.ButtonBar));
+  TwipRect actions = layout_.Actions;
+  actions.Height = c.ActionsHeight;
+  fraActions_->setGeometry(scale_.Rect(actions));
+  btnPickAction_->setGeometry(scale_.Rect(layout_.PickAction));
+  btnQuick_[0]->setGeometry(scale_.Rect(layout_.Quick1));
+  btnQuick_[1]->setGeometry(scale_.Rect(layout_.Quick2));
+  picTerreno_->setGeometry(scale_.Rect(layout_.Terrain));
+  hScroll1_->setGeometry(scale_.Rect(layout_.HScroll));
+  vScroll1_->setGeometry(scale_.Rect(layout_.VScroll));
+  fraInfo_->setGeometry(scale_.Rect(layout_.Info));
+  fraButtonBar_->setVisible(c.ButtonBarVisible);
+  fraActions_->setVisible(c.ButtonBarVisible);
+  btnPickAction_->setVisible(c.ButtonBarVisible);
+  fraInfo_->setVisible(c.InfoVisible);
+  fraActions_->raise();
+  btnPickAction_->raise();
+
+  ResizeCanvases();
+}
+
+void frmKeldor::ResizeCanvases() {
+  // A tick may be waiting inside the population-limit message, halfway
+  // through its drawing: the canvases follow the boxes once it is done.
+  if (inTick_) return;
+  const QSize terrain = picTerreno_->size();
+  if (terrainCanvas_.Image().size() != terrain * terrainCanvas_.DevicePixelRatio()) {
+    terrainCanvas_.Resize(terrain.width(), terrain.height());
+  }
+  const QSize map = picMapa_->size();
+  if (mapCanvas_.Image().size() != map * mapCanvas_.DevicePixelRatio()) mapCanvas_.Resize(map.width(), map.height());
+}
+
+void frmKeldor::ShowControls() {
+  showing_ = true;
+  const ControlState& c = world_.Controls;
+  for (QWidget* w : {static_cast<QWidget*>(btnStop_), static_cast<QWidget*>(cmdZoomIn_),
+                     static_cast<QWidget*>(cmdZoomOut_), static_cast<QWidget*>(btnOdor_),
+                     static_cast<QWidget*>(btnAnts_), static_cast<QWidget*>(btnPickAction_)}) {
+    w->setEnabled(c.WorldControlsEnabled);
+  }
+  for (QPushButton* b : btnAction_) b->setEnabled(c.WorldControlsEnabled);
+
+  SetToolTip(btnStop_, c.StopToolTip);
+  const QString stopPicture = c.StopImage == PlayPauseImage::Play ? "play" : "pause";
+  if (btnStop_->property("picture").toString() != stopPicture) {
+    btnStop_->setIcon(ButtonIcon(c.StopImage == PlayPauseImage::Play ? ButtonPicture::Play : ButtonPicture::Pause));
+    btnStop_->setProperty("picture", stopPicture);
+  }
+  SetToolTip(btnOdor_, c.OdorToolTip);
+  SetToolTip(btnAnts_, c.AntsToolTip);
+
+  // The palette: its height shows the top slot only, or all five buttons.
+  const QString caption = QString::fromStdString(c.PickActionCaption);
+  if (btnPickAction_->text() != caption) btnPickAction_->setText(caption);
+  TwipRect actions = layout_.Actions;
+  actions.Height = c.ActionsHeight;
+  const QRect paletteRect = scale_.Rect(actions);
+  if (fraActions_->geometry() != paletteRect) fraActions_->setGeometry(paletteRect);
+  for (int i = 0; i < 5; ++i) {
+    const QRect r = scale_.Rect({45, static_cast<double>(c.ActionTops[i]), 400, i == 0 ? 405.0 : 400.0});
+    if (btnAction_[i]->geometry() != r) {
+      btnAction_[i]->setGeometry(r);
+      btnAction_[i]->setIconSize(r.size() * 0.7);
+    }
+  }
+  const Qt::CursorShape cursor = c.CrossHairPointer ? Qt::CrossCursor : Qt::ArrowCursor;
+  if (picTerreno_->cursor().shape() != cursor) picTerreno_->setCursor(cursor);
+
+  mnuButtons_->setChecked(c.ButtonBarVisible);
+  mnuInfo_->setChecked(c.InfoVisible);
+  const bool shown[2] = {c.ButtonBarVisible, c.InfoVisible};
+  for (int i = 0; i < 2; ++i) {
+    const QString css = "background-color: " + CssColour(QuickButtonColour(shown[i])) + "; border: 1px solid gray;";
+    if (btnQuick_[i]->styleSheet() != css) btnQuick_[i]->setStyleSheet(css);
+  }
+  const QString population = QString::fromStdString(c.PopulationCaption);
+  if (lblPop_->text() != population) lblPop_->setText(population);
+
+  const ScrollBar* bars[2] = {&world_.View.HScroll1, &world_.View.VScroll1};
+  QScrollBar* widgets[2] = {hScroll1_, vScroll1_};
+  for (int i = 0; i < 2; ++i) {
+    widgets[i]->setRange(std::min(bars[i]->Min, bars[i]->Max), std::max(bars[i]->Min, bars[i]->Max));
+    widgets[i]->setSingleStep(bars[i]->SmallChange);
+    widgets[i]->setPageStep(bars[i]->LargeChange);
+    widgets[i]->setValue(bars[i]->Value);
+  }
+
+  if (world_.TimerEnabled && !timer1_.isActive()) timer1_.start();
+  if (!world_.TimerEnabled && timer1_.isActive()) timer1_.stop();
+  showing_ = false;
+}
+
+}  // namespace keldor

@@ -1,0 +1,122 @@
+// The main window "Keldor": menus, the button bar with the drop-down tool
+// palette, the terrain view with its scroll bars and the information panel
+// with the mini-map and the population. Every handler calls the toolkit-free
+// command and then shows what the world's ControlState says; Timer1 runs the
+// tick every 75 ms and shows the frame it drew.
+#pragma once
+
+#include <QMainWindow>
+#include <QPointer>
+#include <QTimer>
+#include <array>
+#include <memory>
+
+#include "model/Random.h"
+#include "model/WindowLayout.h"
+#include "model/World.h"
+#include "platform/QtCanvas.h"
+#include "render/ViewPainter.h"
+#include "ui/TwipScale.h"
+
+class QAction;
+class QFrame;
+class QLabel;
+class QPushButton;
+class QScrollBar;
+
+namespace keldor {
+
+class MessageBox;
+class PictureBox;
+class Registry;
+class ProgramStarter;
+class frmOptions;
+
+inline constexpr int Timer1IntervalMs = 75;
+
+class frmKeldor : public QMainWindow {
+  Q_OBJECT
+
+ public:
+  // messages shows the population-limit and System Info messages; clock seeds
+  // the random source.
+  frmKeldor(MessageBox& messages, Clock& clock, QWidget* parent = nullptr);
+  ~frmKeldor() override;
+
+  World& TheWorld() { return world_; }
+  const WindowLayout& Layout() const { return layout_; }
+  TwipScale Scale() const { return scale_; }
+  // Ticks run to completion so far.
+  int TicksRun() const { return ticksRun_; }
+  // Runs one tick now, as Timer1 does.
+  void Timer1_Timer();
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  void BuildMenus();
+  void BuildButtonBar(QWidget* central);
+  void BuildPalette(QWidget* central);
+  void BuildTerrain(QWidget* central);
+  void BuildInfoPanel(QWidget* central);
+  QPushButton* AddBarButton(QWidget* bar, const char* name, double left, const char* toolTip);
+
+  // Runs a command on the world, then shows the controls.
+  template <typename Command>
+  void Run(Command command);
+  void mnuFileNew_Click();
+  void mnuOptions_Click();
+  void mnuHelpAbout_Click();
+  void TerrainMouse(int kind, int buttons, QPointF pixel);
+  void MapMouse(bool release, int buttons, QPointF pixel);
+  void ScrollBarMoved();
+
+  // Lays the window out for its current size (snapping back to the minimum).
+  void DoResize();
+  void ApplyLayout();
+  // Sizes the off-screen canvases to the boxes in device pixels.
+  void ResizeCanvases();
+  void ShowControls();
+  void ShowFrame();
+
+  MessageBox& messages_;
+  RandomSource random_;
+  World world_;
+  WindowLayout layout_;
+  TwipScale scale_;
+  std::unique_ptr<Registry> registry_;
+  std::unique_ptr<ProgramStarter> starter_;
+  QtCanvas terrainCanvas_;
+  QtCanvas mapCanvas_;
+  ViewPainter painter_;
+  QTimer timer1_;
+  bool inTick_ = false;
+  bool showing_ = false;
+  int ticksRun_ = 0;
+  QPointer<frmOptions> options_;
+
+  QAction* mnuButtons_ = nullptr;
+  QAction* mnuInfo_ = nullptr;
+  QFrame* fraButtonBar_ = nullptr;
+  QPushButton* btnStart_ = nullptr;
+  QPushButton* btnStop_ = nullptr;
+  QPushButton* cmdZoomIn_ = nullptr;
+  QPushButton* cmdZoomOut_ = nullptr;
+  QPushButton* btnInfo_ = nullptr;
+  QPushButton* btnOdor_ = nullptr;
+  QPushButton* btnAnts_ = nullptr;
+  QFrame* fraActions_ = nullptr;
+  std::array<QPushButton*, 5> btnAction_{};
+  QPushButton* btnPickAction_ = nullptr;
+  std::array<QPushButton*, 2> btnQuick_{};
+  PictureBox* picTerreno_ = nullptr;
+  QScrollBar* hScroll1_ = nullptr;
+  QScrollBar* vScroll1_ = nullptr;
+  QFrame* fraInfo_ = nullptr;
+  PictureBox* picMapa_ = nullptr;
+  QLabel* lblPop_ = nullptr;
+};
+
+}  // namespace keldor
