@@ -18,7 +18,7 @@ double RandomTurn(RandomSource& random, double maxDegrees) {
   return sign * random.Rnd() * maxDegrees * (Pi / 180);
 }
 
-bool IsBrick(const World& world, int x, int y) { return CellHasObjectType(world, PlasterBrickType, x, y); }
+bool IsBrick(const World& world, int x, int y) { return CellHasObjectType(world.Cells(x, y), PlasterBrickType); }
 
 bool InGrid(const World& world, int x, int y) {
   return x >= 1 && x <= world.Settings.GridX && y >= 1 && y <= world.Settings.GridY;

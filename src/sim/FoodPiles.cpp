@@ -80,7 +80,7 @@ void FoodPileUpdate(World& world, RandomSource& random, AntIndex* index) {
     if (world.Settings.CurrentTool == 1 && world.MouseHeld) AdjustFoodAtCursor(world, j);
     FoodPile& pile = world.FoodPiles[j];
     Cell& cell = world.Cells(pile.X, pile.Y);
-    const bool walled = CellHasObjectType(world, PlasterBrickType, pile.X, pile.Y);
+    const bool walled = CellHasObjectType(cell, PlasterBrickType);
     if (world.Running && !walled) FeedAnts(world, index, pile, cell);
     pile.Amount = cell.Food;
     if (pile.Amount == 0) {

@@ -21,7 +21,7 @@ void CellUpdate(World& world, TickPainter& painter) {
   for (int x = 1; x <= s.GridX; ++x) {
     for (int y = 1; y <= s.GridY; ++y) {
       Cell& cell = world.Cells(x, y);
-      if (CellHasObjectType(world, PlasterBrickType, x, y)) {
+      if (CellHasObjectType(cell, PlasterBrickType)) {
         cell.Scent = 0;
         cell.Signature = Signature::Unmarked();
       }
