@@ -1,5 +1,6 @@
 // A colony signature: a short string of "0"/"1" characters (16 in practice)
-// held inline, so copying a cell or a nest never allocates.
+// held inline, so copying a cell or a nest never allocates. The slots past
+// the length stay zero, so two signatures compare as two fixed-size arrays.
 #pragma once
 
 #include <array>
@@ -14,24 +15,23 @@ class Signature {
  public:
   static constexpr int Capacity = 16;
 
-  Signature() = default;  // the empty signature of a never-touched cell
-  explicit Signature(std::string_view text) {
+  constexpr Signature() = default;  // the empty signature of a never-touched cell
+  constexpr explicit Signature(std::string_view text) {
     assert(text.size() <= Capacity);
     length_ = static_cast<uint8_t>(text.size());
     for (size_t k = 0; k < text.size(); ++k) chars_[k] = text[k];
   }
 
   // "0000000000000000": the mark of a cell no colony has claimed.
-  static Signature Unmarked() { return Signature(std::string_view("0000000000000000")); }
+  static constexpr Signature Unmarked() { return Signature(std::string_view("0000000000000000")); }
 
   int Length() const { return length_; }
   bool Empty() const { return length_ == 0; }
   char operator[](int k) const { return chars_[static_cast<size_t>(k)]; }
-  void Set(int k, char c) { chars_[static_cast<size_t>(k)] = c; }
   std::string_view View() const { return {chars_.data(), length_}; }
   std::string ToString() const { return std::string(View()); }
 
-  bool operator==(const Signature& other) const { return View() == other.View(); }
+  bool operator==(const Signature& other) const { return length_ == other.length_ && chars_ == other.chars_; }
 
  private:
   std::array<char, Capacity> chars_{};

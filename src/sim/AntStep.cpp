@@ -1,8 +1,9 @@
 #include "sim/AntStep.h"
 
 #include <algorithm>
+#include <array>
+#include <cassert>
 #include <cmath>
-#include <string>
 
 #include "model/Numeric.h"
 #include "model/Queries.h"
@@ -229,13 +230,14 @@ void BlendSignature(RandomSource& random, int antIndex, const Nest& source, Cell
     return;
   }
   random.ReseedFromClock();
-  std::string mixed(static_cast<size_t>(length), '0');
+  assert(length <= Signature::Capacity);
+  std::array<char, Signature::Capacity> mixed{};
   for (int k = 0; k < length; ++k) {
     // A never-marked (empty) signature reads as "0" characters.
     const char own = k < target.Signature.Length() ? target.Signature[k] : '0';
     mixed[static_cast<size_t>(k)] = Int(2 * random.Rnd()) == 0 ? source.Signature[k] : own;
   }
-  target.Signature = Signature(std::string_view(mixed));
+  target.Signature = Signature(std::string_view(mixed.data(), static_cast<size_t>(length)));
 }
 
 void LayScentTrail(World& world, RandomSource& random, int nestIndex, int antIndex, int cx, int cy, int nx, int ny) {
