@@ -6,6 +6,7 @@
 #include <array>
 #include <cassert>
 #include <cstdint>
+#include <cstring>
 #include <string>
 #include <string_view>
 
@@ -31,9 +32,17 @@ class Signature {
   std::string_view View() const { return {chars_.data(), length_}; }
   std::string ToString() const { return std::string(View()); }
 
-  bool operator==(const Signature& other) const { return length_ == other.length_ && chars_ == other.chars_; }
+  bool operator==(const Signature& other) const {
+    // Two 8-byte words each: compilers call memcmp for the array comparison.
+    uint64_t a[2];
+    uint64_t b[2];
+    std::memcpy(a, chars_.data(), sizeof a);
+    std::memcpy(b, other.chars_.data(), sizeof b);
+    return length_ == other.length_ && a[0] == b[0] && a[1] == b[1];
+  }
 
  private:
+  static_assert(Capacity == 16);
   std::array<char, Capacity> chars_{};
   uint8_t length_ = 0;
 };

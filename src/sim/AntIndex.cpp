@@ -5,7 +5,10 @@
 namespace keldor {
 
 AntIndex::AntIndex(const World& world)
-    : cellSize_(world.Settings.CellSize), columns_(world.Settings.GridX + 2), rows_(world.Settings.GridY + 2) {
+    : cellSize_(world.Settings.CellSize),
+      inverseCellSize_(1 / world.Settings.CellSize),
+      columns_(world.Settings.GridX + 2),
+      rows_(world.Settings.GridY + 2) {
   constexpr int dead = -1;
   std::vector<int> slotOfAnt;  // every ant record in scan order, dead ones too
   slotOfAnt.reserve(static_cast<size_t>(world.Settings.Population) + static_cast<size_t>(world.NestCount));
@@ -27,18 +30,33 @@ AntIndex::AntIndex(const World& world)
   ants_.resize(static_cast<size_t>(cellStart_.back()));
   size_t k = slotOfAnt.size();
   for (int n = world.NestCount - 1; n >= 0; --n) {
-    for (int a = world.Nests[static_cast<size_t>(n)].AntCount() - 1; a >= 0; --a) {
+    const Nest& nest = world.Nests[static_cast<size_t>(n)];
+    for (int a = nest.AntCount() - 1; a >= 0; --a) {
       const int slot = slotOfAnt[--k];
       if (slot == dead) continue;
       const int at = --cellStart_[static_cast<size_t>(slot)];
-      ants_[static_cast<size_t>(at)] = {static_cast<int16_t>(n), static_cast<int16_t>(a)};
+      ants_[static_cast<size_t>(at)] = {{static_cast<int16_t>(n), static_cast<int16_t>(a)}, 0, nest.Ants[a].HeadX,
+                                        nest.Ants[a].HeadY};
+    }
+  }
+  // Runs end at the next nest or at the cell's end, whichever comes first.
+  for (size_t c = 0; c + 1 < cellStart_.size(); ++c) {
+    const int begin = cellStart_[c];
+    const int end = cellStart_[c + 1];
+    for (int i = end - 1; i >= begin; --i) {
+      IndexedAnt& ant = ants_[static_cast<size_t>(i)];
+      const bool runGoesOn = i + 1 < end && ants_[static_cast<size_t>(i) + 1].Ref.Nest == ant.Ref.Nest;
+      ant.RunEnd = runGoesOn ? ants_[static_cast<size_t>(i) + 1].RunEnd : i + 1;
     }
   }
 }
 
 const std::vector<AntRef>& AntIndex::Near(double worldX, double worldY, double reach) {
   found_.clear();
-  ForEachNear(worldX, worldY, reach, [this](AntRef ref) { found_.push_back(ref); });
+  ForEachNear(worldX, worldY, reach, [this](const IndexedAnt& ant) {
+    found_.push_back(ant.Ref);
+    return true;
+  });
   std::sort(found_.begin(), found_.end());
   return found_;
 }

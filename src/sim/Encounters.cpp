@@ -40,8 +40,11 @@ class NearbyEncounters {
   NearbyEncounters(World& world, const AntIndex& index)
       : world_(world), index_(index), firstTouch_(static_cast<size_t>(world.NestCount)) {
     double longestSquaredSpan = 0;
+    queenReach_.reserve(static_cast<size_t>(world.NestCount));
     for (int n = 0; n < world.NestCount; ++n) {
       const Nest& nest = world.Nests[static_cast<size_t>(n)];
+      const Ant& queen = nest.Ants[0];
+      queenReach_.push_back(queen.Length / 8 / 2 / world.Settings.ScaleX + std::sqrt(SquaredSpan(queen)));
       for (int a = 1; a < nest.AntCount(); ++a) {
         const Ant& ant = nest.Ants[a];
         if (!(ant.Energy > 0)) continue;
@@ -67,19 +70,29 @@ class NearbyEncounters {
       first = other.Signature == nest.Signature ? NotRival : Untouched;
       if (first == NotRival || other.AntCount() == 0) continue;
       const Ant& queen = other.Ants[0];
-      const double queenReach = PaddedReach(biterShare + queen.Length / 8 / 2 / scaleX + std::sqrt(SquaredSpan(queen)),
-                                            world_.Settings.CellSize);
+      const double queenReach =
+          PaddedReach(biterShare + queenReach_[static_cast<size_t>(m)], world_.Settings.CellSize);
       if (std::abs(queen.HeadX - biter.HeadX) <= queenReach && std::abs(queen.HeadY - biter.HeadY) <= queenReach &&
           Touches(world_, biter, antIndex, queen, 0)) {
         first = 0;
       }
     }
     const double workerReach = biterShare + workerLength_ / 5 / 2 / scaleX + workerSpan_;
-    index_.ForEachNear(biter.HeadX, biter.HeadY, workerReach, [&](AntRef ref) {
+    const double paddedReach = PaddedReach(workerReach, world_.Settings.CellSize);
+    index_.ForEachNear(biter.HeadX, biter.HeadY, workerReach, [&](const IndexedAnt& near) {
+      // A run lists its nest's ants in rising order: once past the first
+      // touch, or in a nest that is no rival, the rest of it can be skipped.
+      const AntRef ref = near.Ref;
       int& first = firstTouch_[static_cast<size_t>(ref.Nest)];
-      if (ref.Ant >= first || ref.Ant == 0) return;
+      if (ref.Ant >= first) return false;
+      if (ref.Ant == 0) return true;
+      if (std::abs(near.HeadX - biter.HeadX) > paddedReach || std::abs(near.HeadY - biter.HeadY) > paddedReach) {
+        return true;
+      }
       const Nest& other = world_.Nests[static_cast<size_t>(ref.Nest)];
-      if (Touches(world_, biter, antIndex, other.Ants[ref.Ant], ref.Ant)) first = ref.Ant;
+      if (!Touches(world_, biter, antIndex, other.Ants[ref.Ant], ref.Ant)) return true;
+      first = ref.Ant;
+      return false;
     });
     for (int m = 0; m < nestCount; ++m) {
       const int victim = firstTouch_[static_cast<size_t>(m)];
@@ -101,6 +114,7 @@ class NearbyEncounters {
   const AntIndex& index_;
   double workerLength_ = 0;
   double workerSpan_ = 0;
+  std::vector<double> queenReach_;  // per nest: the queen's share of a touch reach plus her span
   std::vector<int> firstTouch_;  // per nest: the first touched ant so far, Untouched or NotRival
 };
 
