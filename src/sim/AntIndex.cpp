@@ -28,6 +28,7 @@ AntIndex::AntIndex(const World& world)
   // last ant backwards moves it to the start of c and keeps scan order.
   for (size_t c = 1; c < cellStart_.size(); ++c) cellStart_[c] += cellStart_[c - 1];
   ants_.resize(static_cast<size_t>(cellStart_.back()));
+  std::vector<int> slotOfEntry(ants_.size());
   size_t k = slotOfAnt.size();
   for (int n = world.NestCount - 1; n >= 0; --n) {
     const Nest& nest = world.Nests[static_cast<size_t>(n)];
@@ -35,19 +36,18 @@ AntIndex::AntIndex(const World& world)
       const int slot = slotOfAnt[--k];
       if (slot == dead) continue;
       const int at = --cellStart_[static_cast<size_t>(slot)];
+      slotOfEntry[static_cast<size_t>(at)] = slot;
       ants_[static_cast<size_t>(at)] = {{static_cast<int16_t>(n), static_cast<int16_t>(a)}, 0, nest.Ants[a].HeadX,
                                         nest.Ants[a].HeadY};
     }
   }
-  // Runs end at the next nest or at the cell's end, whichever comes first.
-  for (size_t c = 0; c + 1 < cellStart_.size(); ++c) {
-    const int begin = cellStart_[c];
-    const int end = cellStart_[c + 1];
-    for (int i = end - 1; i >= begin; --i) {
-      IndexedAnt& ant = ants_[static_cast<size_t>(i)];
-      const bool runGoesOn = i + 1 < end && ants_[static_cast<size_t>(i) + 1].Ref.Nest == ant.Ref.Nest;
-      ant.RunEnd = runGoesOn ? ants_[static_cast<size_t>(i) + 1].RunEnd : i + 1;
-    }
+  // A run ends where the next ant belongs to another nest or another cell.
+  for (int i = static_cast<int>(ants_.size()) - 1; i >= 0; --i) {
+    const size_t at = static_cast<size_t>(i);
+    IndexedAnt& ant = ants_[at];
+    const bool runGoesOn = at + 1 < ants_.size() && slotOfEntry[at + 1] == slotOfEntry[at] &&
+                           ants_[at + 1].Ref.Nest == ant.Ref.Nest;
+    ant.RunEnd = runGoesOn ? ants_[at + 1].RunEnd : i + 1;
   }
 }
 
