@@ -35,7 +35,8 @@ inline double PaddedReach(double reach, double cellSize) { return reach * (1 + 1
 
 class AntIndex {
  public:
-  // Buckets every living ant; valid while no ant moves, is born or is removed.
+  // Buckets every living ant; valid while no ant moves, is born or is removed
+  // (an ant that dies meanwhile stays listed).
   explicit AntIndex(const World& world);
 
   // Calls visit(IndexedAnt) for every ant whose head may lie within reach

@@ -87,5 +87,29 @@ TEST(AntIndex, IndexedTicksMatchFullScansInACrowdedWorld) {
   }
 }
 
+// Short-lived workers at full piles: ants die and are removed while others
+// bite, so the pile pass must not use numbers that removal has changed.
+TEST(AntIndex, IndexedTicksMatchFullScansWhileBodiesAreRemoved) {
+  ExpectIndexChangesNothing(3, 90, [](TickRig& rig) {
+    World& world = rig.world();
+    world.Settings.AntsPerNest = 150;
+    AddNestAt(rig, 10, 10);
+    AddNestAt(rig, 11, 10);
+    for (int x = 9; x <= 12; ++x) {
+      for (int y = 9; y <= 11; ++y) {
+        Cell& cell = world.Cells(x, y);
+        if (cell.Food != 0) continue;
+        FoodPile* pile = AppendFoodPile(world, rig.test.random, static_cast<int16_t>(x), static_cast<int16_t>(y),
+                                        world.Settings.CellFoodCapacity());
+        ASSERT_NE(pile, nullptr);
+        cell.Food = pile->Amount;
+      }
+    }
+    for (Nest& nest : world.Nests) {
+      for (int a = 1; a < nest.AntCount(); ++a) nest.Ants[a].Energy = (a % 40 + 1) * nest.AntUnit / 100;
+    }
+  });
+}
+
 }  // namespace
 }  // namespace keldor::testing
