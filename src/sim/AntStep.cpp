@@ -15,7 +15,7 @@ namespace {
 
 // A turn of up to maxDegrees either way, from two fresh draws.
 double RandomTurn(RandomSource& random, double maxDegrees) {
-  const double sign = Int(2 * random.Rnd()) == 0 ? -1.0 : 1.0;
+  const double sign = SignOfDraw(random.Rnd());
   return sign * random.Rnd() * maxDegrees * (Pi / 180);
 }
 
