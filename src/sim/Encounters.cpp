@@ -96,7 +96,8 @@ class NearbyEncounters {
     });
     for (int m = 0; m < nestCount; ++m) {
       const int victim = firstTouch_[static_cast<size_t>(m)];
-      if (victim != NotRival && victim != Untouched) Bite(world_, cell, nest, biter, world_.Nests[static_cast<size_t>(m)].Ants[victim]);
+      if (victim == NotRival || victim == Untouched) continue;
+      Bite(world_, cell, nest, biter, world_.Nests[static_cast<size_t>(m)].Ants[victim]);
     }
   }
 
