@@ -28,6 +28,8 @@ class CellGrid {
   int Rows() const { return rows_; }        // GridY + 2
 
   Cell& operator()(int x, int y) { return cells_[Index(x, y)]; }
+  // Column x: its cells (x, 0) .. (x, GridY + 1) lie next to each other.
+  Cell* Column(int x) { return &cells_[Index(x, 0)]; }
   const Cell& operator()(int x, int y) const { return cells_[Index(x, y)]; }
 
  private:

@@ -9,9 +9,7 @@
 
 namespace keldor {
 
-double Int(double v) { return std::floor(v); }
-
-int32_t CInt(double v) {
+int32_t CIntOutsideFastRange(double v) {
   if (std::isnan(v)) return 0;
   // std::nearbyint rounds ties to even under the default rounding mode.
   const double r = std::nearbyint(v);
@@ -20,21 +18,11 @@ int32_t CInt(double v) {
   return static_cast<int32_t>(r);
 }
 
-int16_t ClampToInt16(int64_t v) {
-  if (v > Int16Max) return Int16Max;
-  if (v < Int16Min) return Int16Min;
-  return static_cast<int16_t>(v);
-}
-
 bool TryAddInt16(int16_t& count, int delta) {
   const int64_t next = static_cast<int64_t>(count) + delta;
   if (next > Int16Max || next < Int16Min) return false;
   count = static_cast<int16_t>(next);
   return true;
-}
-
-double Rgb(int red, int green, int blue) {
-  return static_cast<double>(red) + 256.0 * green + 65536.0 * blue;
 }
 
 namespace {

@@ -3,6 +3,7 @@
 // and the text conversions the dialogs and labels use.
 #pragma once
 
+#include <cmath>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -16,22 +17,44 @@ inline constexpr double Pi = 3.1415926;
 inline constexpr int Int16Max = 32767;
 inline constexpr int Int16Min = -32768;
 
-// Floor, returned as a double like the formulas expect.
-double Int(double v);
+// Floor, returned as a double like the formulas expect. Inline: the tick
+// calls it for every ant step. Below 2^52 the truncation is exact, and the
+// sign copy keeps floor(-0.0) == -0.0.
+inline double Int(double v) {
+  if (!(std::fabs(v) < 0x1p52)) return std::floor(v);
+  const double truncated = static_cast<double>(static_cast<int64_t>(v));
+  return std::copysign(truncated > v ? truncated - 1 : truncated, v);
+}
+
+// CInt for NaN and for values at or beyond 2^30: NaN gives 0, values beyond
+// the 32-bit range saturate.
+int32_t CIntOutsideFastRange(double v);
 
 // Round to the nearest integer, ties to the even integer (0.5 -> 0, 1.5 -> 2,
 // 2.5 -> 2, -2.5 -> -2). NaN gives 0; values beyond the 32-bit range saturate.
-int32_t CInt(double v);
+// Adding and subtracting 1.5 * 2^52 leaves no fraction bits, so the default
+// round-to-nearest-even mode does the rounding.
+inline int32_t CInt(double v) {
+  if (!(std::fabs(v) < 0x1p30)) return CIntOutsideFastRange(v);
+  constexpr double shift = 0x1.8p52;
+  return static_cast<int32_t>((v + shift) - shift);
+}
 
 // Saturating conversion into the 16-bit range.
-int16_t ClampToInt16(int64_t v);
+inline int16_t ClampToInt16(int64_t v) {
+  if (v > Int16Max) return Int16Max;
+  if (v < Int16Min) return Int16Min;
+  return static_cast<int16_t>(v);
+}
 
 // Adds delta to a 16-bit count. Returns false and leaves the count unchanged
 // when the result would leave -32768..32767: a count never wraps.
 bool TryAddInt16(int16_t& count, int delta);
 
 // RGB colour as red + 256 green + 65536 blue, held in a double.
-double Rgb(int red, int green, int blue);
+inline double Rgb(int red, int green, int blue) {
+  return static_cast<double>(red) + 256.0 * green + 65536.0 * blue;
+}
 
 // True when the text reads as a decimal number: optional surrounding spaces,
 // an optional sign, digits with at most one decimal point, at least one digit.

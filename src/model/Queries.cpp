@@ -13,11 +13,7 @@ WorldPoint CellAtPoint(const World& world, double x, double y) {
 }
 
 bool CellHasObjectType(const World& world, std::string_view typeName, int x, int y) {
-  const Cell& cell = world.Cells(x, y);
-  for (int k = 0; k < cell.ObjectCount(); ++k) {
-    if (cell.Objects[k].TypeName == typeName) return true;
-  }
-  return false;
+  return CellHasObjectType(world.Cells(x, y), typeName);
 }
 
 bool IsNestCell(const World& world, int x, int y) {
@@ -26,9 +22,6 @@ bool IsNestCell(const World& world, int x, int y) {
   }
   return false;
 }
-
-double Min(double a, double b) { return a < b ? a : b; }
-double Max(double a, double b) { return a > b ? a : b; }
 
 double PointToSegmentDistance(const Ant& a, const Ant& b) {
   const double dx = b.HeadX - b.RearX;
@@ -43,10 +36,6 @@ double PointToSegmentDistance(const Ant& a, const Ant& b) {
   const double px = b.RearX + t * dx;
   const double py = b.RearY + t * dy;
   return std::sqrt((a.HeadY - py) * (a.HeadY - py) + (a.HeadX - px) * (a.HeadX - px));
-}
-
-int16_t CellOfCoordinate(double v, double cellSize) {
-  return ClampToInt16(CInt(Int(v / cellSize) + 1));
 }
 
 }  // namespace keldor

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <string_view>
 
+#include "model/Numeric.h"
 #include "model/Records.h"
 
 namespace keldor {
@@ -16,21 +17,28 @@ struct World;
 // left of or above the world gives 0 or less, one beyond it GridX+1 or more.
 WorldPoint CellAtPoint(const World& world, double x, double y);
 
-// True when cell (x, y) holds an object whose type name equals typeName
-// exactly. The cell must lie in 0..GridX+1 by 0..GridY+1.
+// True when the cell holds an object whose type name equals typeName exactly.
+inline bool CellHasObjectType(const Cell& cell, std::string_view typeName) {
+  for (const WallObject& object : cell.Objects) {
+    if (object.TypeName == typeName) return true;
+  }
+  return false;
+}
+
+// The same question for cell (x, y), which must lie in 0..GridX+1 by 0..GridY+1.
 bool CellHasObjectType(const World& world, std::string_view typeName, int x, int y);
 
 // True when any nest stands on cell (x, y).
 bool IsNestCell(const World& world, int x, int y);
 
 // a if a < b (a > b for Max), else b: a comparison with NaN returns b.
-double Min(double a, double b);
-double Max(double a, double b);
+inline double Min(double a, double b) { return a < b ? a : b; }
+inline double Max(double a, double b) { return a > b ? a : b; }
 
 // Distance, in world units, from a's head to the segment from b's rear to b's head.
 double PointToSegmentDistance(const Ant& a, const Ant& b);
 
 // The cell column (or row) of a world coordinate: Int(v / CellSize) + 1.
-int16_t CellOfCoordinate(double v, double cellSize);
+inline int16_t CellOfCoordinate(double v, double cellSize) { return ClampToInt16(CInt(Int(v / cellSize) + 1)); }
 
 }  // namespace keldor

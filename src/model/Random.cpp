@@ -16,8 +16,6 @@ uint64_t SplitMix64(uint64_t& x) {
   return z ^ (z >> 31);
 }
 
-uint64_t Rotl(uint64_t x, int k) { return (x << k) | (x >> (64 - k)); }
-
 }  // namespace
 
 VirtualClock::VirtualClock(uint64_t seed) {
@@ -46,19 +44,5 @@ void RandomSource::Seed(double secondsSinceMidnight) {
 }
 
 void RandomSource::ReseedFromClock() { Seed(clock_.SecondsSinceMidnight()); }
-
-uint64_t RandomSource::Next() {
-  const uint64_t result = Rotl(state_[1] * 5, 7) * 9;
-  const uint64_t t = state_[1] << 17;
-  state_[2] ^= state_[0];
-  state_[3] ^= state_[1];
-  state_[1] ^= state_[2];
-  state_[0] ^= state_[3];
-  state_[2] ^= t;
-  state_[3] = Rotl(state_[3], 45);
-  return result;
-}
-
-double RandomSource::Rnd() { return static_cast<double>(Next() >> 11) * 0x1.0p-53; }
 
 }  // namespace keldor

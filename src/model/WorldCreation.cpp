@@ -13,9 +13,6 @@ namespace keldor {
 
 namespace {
 
-// (-1)^(Int(2r)+1): -1 for r < 0.5, +1 otherwise.
-double RandomSign(double r) { return Int(2 * r) == 0 ? -1.0 : 1.0; }
-
 // The control-side steps of New: font, zoom, display flags, enabled buttons,
 // a paused Play/Pause button, the odor tool tip and centred scroll bars.
 void ResetViewForNewWorld(World& world) {
@@ -78,8 +75,8 @@ void PlaceAnt(const Nest& n, Ant& a, int index, const WorldSettings& s, RandomSo
     a.RearY = n.Y;
     const double r1 = random.Rnd(), r2 = random.Rnd(), r3 = random.Rnd();
     const double reach = a.Length / s.ScaleX;
-    a.HeadX = a.RearX + RandomSign(r1) * r2 * reach;
-    a.HeadY = a.RearY + RandomSign(r3) * std::sqrt(reach * reach - (a.HeadX - a.RearX) * (a.HeadX - a.RearX));
+    a.HeadX = a.RearX + SignOfDraw(r1) * r2 * reach;
+    a.HeadY = a.RearY + SignOfDraw(r3) * std::sqrt(reach * reach - (a.HeadX - a.RearX) * (a.HeadX - a.RearX));
   } else {
     // A worker: head on the nest centre, rear on a circle around it.
     a.Length = n.AntLength;
@@ -87,8 +84,8 @@ void PlaceAnt(const Nest& n, Ant& a, int index, const WorldSettings& s, RandomSo
     a.HeadY = n.Y;
     const double r1 = random.Rnd(), r2 = random.Rnd(), r3 = random.Rnd();
     const double reach = n.AntLength / s.ScaleX;
-    a.RearX = a.HeadX + RandomSign(r1) * r2 * reach;
-    a.RearY = a.HeadY + RandomSign(r3) * std::sqrt(reach * reach - (a.RearX - a.HeadX) * (a.RearX - a.HeadX));
+    a.RearX = a.HeadX + SignOfDraw(r1) * r2 * reach;
+    a.RearY = a.HeadY + SignOfDraw(r3) * std::sqrt(reach * reach - (a.RearX - a.HeadX) * (a.RearX - a.HeadX));
   }
   a.CellX = n.CellX;
   a.CellY = n.CellY;

@@ -1,47 +1,62 @@
 #include "sim/AntIndex.h"
 
-#include <algorithm>
-#include <cmath>
-
 #include "model/World.h"
 
 namespace keldor {
 
 AntIndex::AntIndex(const World& world)
-    : cellSize_(world.Settings.CellSize), columns_(world.Settings.GridX + 2), rows_(world.Settings.GridY + 2) {
-  buckets_.resize(static_cast<size_t>(columns_) * static_cast<size_t>(rows_));
+    : cellSize_(world.Settings.CellSize),
+      inverseCellSize_(1 / world.Settings.CellSize),
+      columns_(world.Settings.GridX + 2),
+      rows_(world.Settings.GridY + 2) {
+  constexpr int dead = -1;
+  std::vector<int> slotOfAnt;  // every ant record in scan order, dead ones too
+  slotOfAnt.reserve(static_cast<size_t>(world.Settings.Population) + static_cast<size_t>(world.NestCount));
+  cellStart_.assign(static_cast<size_t>(columns_) * static_cast<size_t>(rows_) + 1, 0);
   for (int n = 0; n < world.NestCount; ++n) {
-    const Nest& nest = world.Nests[static_cast<size_t>(n)];
-    for (int a = 0; a < nest.AntCount(); ++a) {
-      const Ant& ant = nest.Ants[a];
-      if (!(ant.Energy > 0)) continue;
-      const int x = Clamp(static_cast<int>(std::floor(ant.HeadX / cellSize_)), columns_);
-      const int y = Clamp(static_cast<int>(std::floor(ant.HeadY / cellSize_)), rows_);
-      buckets_[static_cast<size_t>(x) * static_cast<size_t>(rows_) + static_cast<size_t>(y)].push_back(
-          {static_cast<int16_t>(n), static_cast<int16_t>(a)});
+    for (const Ant& ant : world.Nests[static_cast<size_t>(n)].Ants) {
+      if (!(ant.Energy > 0)) {
+        slotOfAnt.push_back(dead);
+        continue;
+      }
+      const size_t slot = CellSlot(Column(ant.HeadX), Row(ant.HeadY));
+      slotOfAnt.push_back(static_cast<int>(slot));
+      ++cellStart_[slot];
     }
+  }
+  // Running totals make cellStart_[c] the end of cell c; filling from the
+  // last ant backwards moves it to the start of c and keeps scan order.
+  for (size_t c = 1; c < cellStart_.size(); ++c) cellStart_[c] += cellStart_[c - 1];
+  ants_.resize(static_cast<size_t>(cellStart_.back()));
+  std::vector<int> slotOfEntry(ants_.size());
+  size_t k = slotOfAnt.size();
+  for (int n = world.NestCount - 1; n >= 0; --n) {
+    const Nest& nest = world.Nests[static_cast<size_t>(n)];
+    for (int a = nest.AntCount() - 1; a >= 0; --a) {
+      const int slot = slotOfAnt[--k];
+      if (slot == dead) continue;
+      const int at = --cellStart_[static_cast<size_t>(slot)];
+      slotOfEntry[static_cast<size_t>(at)] = slot;
+      ants_[static_cast<size_t>(at)] = {{static_cast<int16_t>(n), static_cast<int16_t>(a)}, 0, nest.Ants[a].HeadX,
+                                        nest.Ants[a].HeadY};
+    }
+  }
+  // A run ends where the next ant belongs to another nest or another cell.
+  for (int i = static_cast<int>(ants_.size()) - 1; i >= 0; --i) {
+    const size_t at = static_cast<size_t>(i);
+    IndexedAnt& ant = ants_[at];
+    const bool runGoesOn = at + 1 < ants_.size() && slotOfEntry[at + 1] == slotOfEntry[at] &&
+                           ants_[at + 1].Ref.Nest == ant.Ref.Nest;
+    ant.RunEnd = runGoesOn ? ants_[at + 1].RunEnd : i + 1;
   }
 }
 
-int AntIndex::Clamp(int v, int high) const { return std::clamp(v, 0, high - 1); }
-
-const std::vector<AntRef>& AntIndex::Near(double worldX, double worldY, double reach, int skipNest) {
-  // One extra cell each way absorbs rounding at the cell borders.
-  const int x0 = Clamp(static_cast<int>(std::floor((worldX - reach) / cellSize_)) - 1, columns_);
-  const int x1 = Clamp(static_cast<int>(std::floor((worldX + reach) / cellSize_)) + 1, columns_);
-  const int y0 = Clamp(static_cast<int>(std::floor((worldY - reach) / cellSize_)) - 1, rows_);
-  const int y1 = Clamp(static_cast<int>(std::floor((worldY + reach) / cellSize_)) + 1, rows_);
+const std::vector<AntRef>& AntIndex::Near(double worldX, double worldY, double reach) {
   found_.clear();
-  for (int x = x0; x <= x1; ++x) {
-    for (int y = y0; y <= y1; ++y) {
-      const auto& bucket = buckets_[static_cast<size_t>(x) * static_cast<size_t>(rows_) + static_cast<size_t>(y)];
-      // A bucket is in nest order: the skipped nest is one run within it.
-      const auto skipBegin = std::lower_bound(bucket.begin(), bucket.end(), AntRef{static_cast<int16_t>(skipNest), 0});
-      const auto skipEnd = std::lower_bound(skipBegin, bucket.end(), AntRef{static_cast<int16_t>(skipNest + 1), 0});
-      found_.insert(found_.end(), bucket.begin(), skipBegin);
-      found_.insert(found_.end(), skipEnd, bucket.end());
-    }
-  }
+  ForEachNear(worldX, worldY, reach, [this](const IndexedAnt& ant) {
+    found_.push_back(ant.Ref);
+    return true;
+  });
   std::sort(found_.begin(), found_.end());
   return found_;
 }

@@ -1,8 +1,9 @@
 #include "sim/AntStep.h"
 
 #include <algorithm>
+#include <array>
+#include <cassert>
 #include <cmath>
-#include <string>
 
 #include "model/Numeric.h"
 #include "model/Queries.h"
@@ -14,11 +15,11 @@ namespace {
 
 // A turn of up to maxDegrees either way, from two fresh draws.
 double RandomTurn(RandomSource& random, double maxDegrees) {
-  const double sign = Int(2 * random.Rnd()) == 0 ? -1.0 : 1.0;
+  const double sign = SignOfDraw(random.Rnd());
   return sign * random.Rnd() * maxDegrees * (Pi / 180);
 }
 
-bool IsBrick(const World& world, int x, int y) { return CellHasObjectType(world, PlasterBrickType, x, y); }
+bool IsBrick(const World& world, int x, int y) { return CellHasObjectType(world.Cells(x, y), PlasterBrickType); }
 
 bool InGrid(const World& world, int x, int y) {
   return x >= 1 && x <= world.Settings.GridX && y >= 1 && y <= world.Settings.GridY;
@@ -32,20 +33,25 @@ Cell& CellOrBorder(World& world, int x, int y) {
   return world.Cells(cx, cy);
 }
 
+// Visits the cross around (x, y) in column-then-row order (left, up, centre,
+// down, right), leaving out cells beyond column GridX or row GridY; stops
+// when visit returns true.
 template <class Visit>
 void ForCross(const World& world, int x, int y, Visit visit) {
-  const int aEnd = std::min(x + 1, static_cast<int>(world.Settings.GridX));
-  const int bEnd = std::min(y + 1, static_cast<int>(world.Settings.GridY));
-  for (int a = std::max(x - 1, 0); a <= aEnd; ++a) {
-    for (int b = std::max(y - 1, 0); b <= bEnd; ++b) {
-      if (a == x || b == y) {
-        if (visit(world.Cells(a, b))) return;
-      }
-    }
+  static constexpr int offsets[5][2] = {{-1, 0}, {0, -1}, {0, 0}, {0, 1}, {1, 0}};
+  const int gridX = world.Settings.GridX;
+  const int gridY = world.Settings.GridY;
+  for (const auto& [dx, dy] : offsets) {
+    const int a = x + dx;
+    const int b = y + dy;
+    if (a >= 0 && a <= gridX && b >= 0 && b <= gridY && visit(world.Cells(a, b))) return;
   }
 }
 
 ScentLookup LookupOf(const Cell& cell) { return {cell.Scent, cell.Signature}; }
+// A lookup that found no cell reads as scent 0 with no signature.
+ScentLookup LookupOf(const Cell* cell) { return cell != nullptr ? LookupOf(*cell) : ScentLookup{}; }
+double ScentOf(const Cell* cell) { return cell != nullptr ? cell->Scent : 0; }
 
 struct Move {
   double DX = 0;
@@ -86,19 +92,20 @@ bool MayStepForward(const World& world, const Nest& nest, const Ant& ant, int cx
   const double load = ant.Load;
   if (!(load == 0 || n.Signature == nest.Signature || n.Signature == Signature::Unmarked())) return false;
 
-  const ScentLookup fw = FoodwardCell(world, cx, cy);
-  const ScentLookup nw = NestwardCell(world, cx, cy);
-  const double nestMark = -s.NestScentMax;
+  // The neighbourhood lookups are pure: each is made only when a rule needs it.
   if (nx == cx && ny == cy) return true;  // a
   if (load == 0) {
-    return n.Scent == fw.Scent                                  // b
-           || (fw.Scent <= 0 && c.Scent <= 0)                   // c
-           || (n.Scent == nw.Scent && c.Scent == fw.Scent);     // d
+    const double foodward = FoodwardCell(world, cx, cy).Scent;
+    return n.Scent == foodward                                                        // b
+           || (foodward <= 0 && c.Scent <= 0)                                         // c
+           || (c.Scent == foodward && n.Scent == NestwardCell(world, cx, cy).Scent);  // d
   }
-  return n.Scent == nestMark                                                         // e
-         || (n.Scent > 0 && nw.Scent == 0)                                           // f
-         || (c.Scent > nestMark && n.Scent == fw.Scent && c.Scent == nw.Scent)       // g
-         || (nw.Signature == nest.Signature && (n.Scent < 0 || nw.Scent != 0) &&     // h
+  const double nestMark = -s.NestScentMax;
+  if (n.Scent == nestMark) return true;  // e
+  const ScentLookup nw = NestwardCell(world, cx, cy);
+  return (n.Scent > 0 && nw.Scent == 0)                                                          // f
+         || (c.Scent > nestMark && c.Scent == nw.Scent && n.Scent == FoodwardCell(world, cx, cy).Scent)  // g
+         || (nw.Signature == nest.Signature && (n.Scent < 0 || nw.Scent != 0) &&                     // h
              n.Scent == nw.Scent);
 }
 
@@ -190,35 +197,38 @@ void StepWorker(World& world, RandomSource& random, int nestIndex, int antIndex)
 }  // namespace
 
 ScentLookup NestwardCell(const World& world, int x, int y) {
+  // Pointers to the best cells so far: no signature is copied until the end.
   const double nestCell = -world.NestTraceValue();
-  const double own = world.Cells(x, y).Scent;
-  ScentLookup best = LookupOf(world.Cells(x, y));
-  ScentLookup second;
+  const Cell& centre = world.Cells(x, y);
+  const double own = centre.Scent;
+  const Cell* best = &centre;
+  const Cell* second = nullptr;  // none yet: reads as scent 0, no signature
   bool found = false;
   ForCross(world, x, y, [&](const Cell& cell) {
     if (cell.Scent == nestCell) {
-      best = LookupOf(cell);
+      best = &cell;
       found = true;
       return true;
     }
-    if (cell.Scent != 0 && cell.Scent <= best.Scent) best = LookupOf(cell);
-    if (cell.Scent > second.Scent && cell.Scent < own) second = LookupOf(cell);
+    if (cell.Scent != 0 && cell.Scent <= best->Scent) best = &cell;
+    if (cell.Scent > ScentOf(second) && cell.Scent < own) second = &cell;
     return false;
   });
-  if (found) return best;
-  return std::abs(best.Scent) < second.Scent ? second : best;
+  if (found) return LookupOf(*best);
+  return std::abs(best->Scent) < ScentOf(second) ? LookupOf(second) : LookupOf(*best);
 }
 
 ScentLookup FoodwardCell(const World& world, int x, int y) {
-  const double own = world.Cells(x, y).Scent;
-  ScentLookup best = LookupOf(world.Cells(x, y));
-  ScentLookup second;
+  const Cell& centre = world.Cells(x, y);
+  const double own = centre.Scent;
+  const Cell* best = &centre;
+  const Cell* second = nullptr;
   ForCross(world, x, y, [&](const Cell& cell) {
-    if (cell.Scent >= best.Scent) best = LookupOf(cell);
-    if (cell.Scent < second.Scent && cell.Scent > own) second = LookupOf(cell);
+    if (cell.Scent >= best->Scent) best = &cell;
+    if (cell.Scent < ScentOf(second) && cell.Scent > own) second = &cell;
     return false;
   });
-  return best.Scent < 0 ? second : best;
+  return best->Scent < 0 ? LookupOf(second) : LookupOf(*best);
 }
 
 void BlendSignature(RandomSource& random, int antIndex, const Nest& source, Cell& target, int length) {
@@ -229,13 +239,14 @@ void BlendSignature(RandomSource& random, int antIndex, const Nest& source, Cell
     return;
   }
   random.ReseedFromClock();
-  std::string mixed(static_cast<size_t>(length), '0');
+  assert(length <= Signature::Capacity);
+  std::array<char, Signature::Capacity> mixed{};
   for (int k = 0; k < length; ++k) {
     // A never-marked (empty) signature reads as "0" characters.
     const char own = k < target.Signature.Length() ? target.Signature[k] : '0';
     mixed[static_cast<size_t>(k)] = Int(2 * random.Rnd()) == 0 ? source.Signature[k] : own;
   }
-  target.Signature = Signature(std::string_view(mixed));
+  target.Signature = Signature(std::string_view(mixed.data(), static_cast<size_t>(length)));
 }
 
 void LayScentTrail(World& world, RandomSource& random, int nestIndex, int antIndex, int cx, int cy, int nx, int ny) {

@@ -20,9 +20,9 @@ void BearAnt(World& world, RandomSource& random, Nest& nest, Ant& ant) {
   ant.Length = nest.AntLength;
   ant.Energy = Int(Pi * ant.Length * ant.Length * (0.9 + 0.1 * random.Rnd()));
   const double reach = ant.Length / s.ScaleX;
-  const double signX = Int(2 * random.Rnd()) == 0 ? -1.0 : 1.0;
+  const double signX = SignOfDraw(random.Rnd());
   ant.HeadX = ant.RearX + signX * random.Rnd() * reach;
-  const double signY = Int(2 * random.Rnd()) == 0 ? -1.0 : 1.0;
+  const double signY = SignOfDraw(random.Rnd());
   const double dx = ant.HeadX - ant.RearX;
   ant.HeadY = ant.RearY + signY * std::sqrt(reach * reach - dx * dx);
   ant.Angle = 0;

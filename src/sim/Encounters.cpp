@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <vector>
 
 #include "model/Numeric.h"
@@ -15,86 +16,146 @@ namespace {
 // Queens are broader: their reach counts an eighth of their length.
 double ReachShare(const Ant& ant, int index) { return ant.Length / (index == 0 ? 8 : 5); }
 
-// Bites the victim unless the biter carries food; either way they touched.
-bool Touch(World& world, Cell& cell, const Nest& nest, int antIndex, Ant& victim, int victimIndex) {
-  const Ant& biter = nest.Ants[antIndex];
+// The biter's head touches the living victim's body.
+bool Touches(const World& world, const Ant& biter, int biterIndex, const Ant& victim, int victimIndex) {
   const double d = PointToSegmentDistance(biter, victim) * world.Settings.ScaleX;
-  const double reach = (ReachShare(biter, antIndex) + ReachShare(victim, victimIndex)) / 2;
-  if (!(d <= reach && victim.Energy > 0)) return false;
-  if (biter.Load == 0) {
-    cell.Scent = Max(1, Min(cell.Scent + 1, world.Settings.FoodTraceSetting));
-    victim.Colour = Rgb(255, 0, 0);
-    victim.Energy = Max(1, victim.Energy - nest.AntUnit);
-  }
-  return true;
+  const double reach = (ReachShare(biter, biterIndex) + ReachShare(victim, victimIndex)) / 2;
+  return d <= reach && victim.Energy > 0;
 }
 
-// The largest body length and head-to-rear span of the living ants: together
-// they bound how far from a biter's head a touched ant's head can be.
-struct ReachBound {
-  double Length = 0;
-  double Span = 0;
+// A touch turns into a bite unless the biter carries food.
+void Bite(World& world, Cell& cell, const Nest& nest, const Ant& biter, Ant& victim) {
+  if (biter.Load != 0) return;
+  cell.Scent = Max(1, Min(cell.Scent + 1, world.Settings.FoodTraceSetting));
+  victim.Colour = Rgb(255, 0, 0);
+  victim.Energy = Max(1, victim.Energy - nest.AntUnit);
+}
+
+// The encounter phase through the index. A victim's head lies within the
+// touch reach plus the victim's own head-to-rear span of the biter's head, so
+// the largest worker length and span bound the block of cells to search;
+// queens, longer than any worker, are tested one per nest instead.
+class NearbyEncounters {
+ public:
+  NearbyEncounters(World& world, const AntIndex& index)
+      : world_(world), index_(index), firstTouch_(static_cast<size_t>(world.NestCount)) {
+    double longestSquaredSpan = 0;
+    queenReach_.reserve(static_cast<size_t>(world.NestCount));
+    for (int n = 0; n < world.NestCount; ++n) {
+      const Nest& nest = world.Nests[static_cast<size_t>(n)];
+      const Ant& queen = nest.Ants[0];
+      queenReach_.push_back(queen.Length / 8 / 2 / world.Settings.ScaleX + std::sqrt(SquaredSpan(queen)));
+      for (int a = 1; a < nest.AntCount(); ++a) {
+        const Ant& ant = nest.Ants[a];
+        if (!(ant.Energy > 0)) continue;
+        workerLength_ = std::max(workerLength_, ant.Length);
+        longestSquaredSpan = std::max(longestSquaredSpan, SquaredSpan(ant));
+      }
+    }
+    workerSpan_ = std::sqrt(longestSquaredSpan);
+  }
+
+  // Ant i of nest n bites the first ant its head touches in each rival
+  // colony: the lowest-numbered one, as a scan in ant order meets them.
+  void Resolve(Cell& cell, int nestIndex, int antIndex) {
+    if (cell.AntCount < 3) return;
+    const int nestCount = world_.NestCount;
+    const Nest& nest = world_.Nests[static_cast<size_t>(nestIndex)];
+    const Ant& biter = nest.Ants[antIndex];
+    const double scaleX = world_.Settings.ScaleX;
+    const double biterShare = ReachShare(biter, antIndex) / 2 / scaleX;
+    for (int m = 0; m < nestCount; ++m) {
+      const Nest& other = world_.Nests[static_cast<size_t>(m)];
+      int& first = firstTouch_[static_cast<size_t>(m)];
+      first = other.Signature == nest.Signature ? NotRival : Untouched;
+      if (first == NotRival || other.AntCount() == 0) continue;
+      const Ant& queen = other.Ants[0];
+      const double queenReach =
+          PaddedReach(biterShare + queenReach_[static_cast<size_t>(m)], world_.Settings.CellSize);
+      if (std::abs(queen.HeadX - biter.HeadX) <= queenReach && std::abs(queen.HeadY - biter.HeadY) <= queenReach &&
+          Touches(world_, biter, antIndex, queen, 0)) {
+        first = 0;
+      }
+    }
+    const double workerReach = biterShare + workerLength_ / 5 / 2 / scaleX + workerSpan_;
+    const double paddedReach = PaddedReach(workerReach, world_.Settings.CellSize);
+    index_.ForEachNear(biter.HeadX, biter.HeadY, workerReach, [&](const IndexedAnt& near) {
+      // A run lists its nest's ants in rising order: once past the first
+      // touch, or in a nest that is no rival, the rest of it can be skipped.
+      const AntRef ref = near.Ref;
+      int& first = firstTouch_[static_cast<size_t>(ref.Nest)];
+      if (ref.Ant >= first) return false;
+      if (ref.Ant == 0) return true;
+      if (std::abs(near.HeadX - biter.HeadX) > paddedReach || std::abs(near.HeadY - biter.HeadY) > paddedReach) {
+        return true;
+      }
+      const Nest& other = world_.Nests[static_cast<size_t>(ref.Nest)];
+      if (!Touches(world_, biter, antIndex, other.Ants[ref.Ant], ref.Ant)) return true;
+      first = ref.Ant;
+      return false;
+    });
+    for (int m = 0; m < nestCount; ++m) {
+      const int victim = firstTouch_[static_cast<size_t>(m)];
+      if (victim == NotRival || victim == Untouched) continue;
+      Bite(world_, cell, nest, biter, world_.Nests[static_cast<size_t>(m)].Ants[victim]);
+    }
+  }
+
+ private:
+  static constexpr int NotRival = -1;  // below every ant number: nothing to test
+  static constexpr int Untouched = std::numeric_limits<int>::max();
+
+  static double SquaredSpan(const Ant& ant) {
+    const double dx = ant.HeadX - ant.RearX;
+    const double dy = ant.HeadY - ant.RearY;
+    return dx * dx + dy * dy;
+  }
+
+  World& world_;
+  const AntIndex& index_;
+  double workerLength_ = 0;
+  double workerSpan_ = 0;
+  std::vector<double> queenReach_;  // per nest: the queen's share of a touch reach plus her span
+  std::vector<int> firstTouch_;  // per nest: the first touched ant so far, Untouched or NotRival
 };
-
-ReachBound LargestReach(const World& world) {
-  ReachBound bound;
-  for (int n = 0; n < world.NestCount; ++n) {
-    for (const Ant& ant : world.Nests[static_cast<size_t>(n)].Ants) {
-      if (!(ant.Energy > 0)) continue;
-      bound.Length = std::max(bound.Length, ant.Length);
-      bound.Span = std::max(bound.Span, std::hypot(ant.HeadX - ant.RearX, ant.HeadY - ant.RearY));
-    }
-  }
-  return bound;
-}
-
-void ResolveNearbyEncounter(World& world, AntIndex& index, const ReachBound& bound, Cell& cell, int nestIndex,
-                            int antIndex) {
-  if (cell.AntCount < 3) return;
-  const Nest& nest = world.Nests[static_cast<size_t>(nestIndex)];
-  const Ant& biter = nest.Ants[antIndex];
-  const double reach = (ReachShare(biter, antIndex) + bound.Length / 5) / 2 / world.Settings.ScaleX + bound.Span;
-  const std::vector<AntRef>& near = index.Near(biter.HeadX, biter.HeadY, reach, nestIndex);
-  size_t next = 0;
-  for (int m = 0; m < world.NestCount; ++m) {
-    Nest& other = world.Nests[static_cast<size_t>(m)];
-    while (next < near.size() && near[next].Nest < m) ++next;
-    if (other.Signature == nest.Signature) continue;
-    for (size_t r = next; r < near.size() && near[r].Nest == m; ++r) {
-      if (Touch(world, cell, nest, antIndex, other.Ants[near[r].Ant], near[r].Ant)) break;
-    }
-  }
-}
 
 }  // namespace
 
 void ResolveEncounter(World& world, Cell& cell, int nestIndex, int antIndex) {
   if (cell.AntCount < 3) return;
   const Nest& nest = world.Nests[static_cast<size_t>(nestIndex)];
+  const Ant& biter = nest.Ants[antIndex];
   for (int m = 0; m < world.NestCount; ++m) {
     Nest& other = world.Nests[static_cast<size_t>(m)];
     if (other.Signature == nest.Signature) continue;
     for (int k = 0; k < other.AntCount(); ++k) {
-      if (Touch(world, cell, nest, antIndex, other.Ants[k], k)) break;
+      if (Touches(world, biter, antIndex, other.Ants[k], k)) {
+        Bite(world, cell, nest, biter, other.Ants[k]);
+        break;
+      }
     }
   }
 }
 
 void ResolveEncounters(World& world, AntIndex* index) {
   if (!world.Running) return;
-  const ReachBound bound = index != nullptr ? LargestReach(world) : ReachBound{};
   const int nestCount = world.NestCount;
+  if (index == nullptr) {
+    for (int n = 0; n < nestCount; ++n) {
+      Nest& nest = world.Nests[static_cast<size_t>(n)];
+      for (int i = 0; i < nest.AntCount(); ++i) {
+        const Ant& ant = nest.Ants[i];
+        if (ant.Energy > 0) ResolveEncounter(world, world.Cells(ant.CellX, ant.CellY), n, i);
+      }
+    }
+    return;
+  }
+  NearbyEncounters encounters(world, *index);
   for (int n = 0; n < nestCount; ++n) {
     Nest& nest = world.Nests[static_cast<size_t>(n)];
     for (int i = 0; i < nest.AntCount(); ++i) {
       const Ant& ant = nest.Ants[i];
-      if (!(ant.Energy > 0)) continue;
-      Cell& cell = world.Cells(ant.CellX, ant.CellY);
-      if (index != nullptr) {
-        ResolveNearbyEncounter(world, *index, bound, cell, n, i);
-      } else {
-        ResolveEncounter(world, cell, n, i);
-      }
+      if (ant.Energy > 0) encounters.Resolve(world.Cells(ant.CellX, ant.CellY), n, i);
     }
   }
 }

@@ -51,7 +51,7 @@ void FeedAnts(World& world, AntIndex* index, FoodPile& pile, Cell& cell) {
 
 // -1 or +1 with one draw, then 0 or 1 with another: an offset of -1, 0 or +1.
 double RandomOffset(RandomSource& random) {
-  const double sign = Int(2 * random.Rnd()) == 0 ? -1.0 : 1.0;
+  const double sign = SignOfDraw(random.Rnd());
   return sign * Int(2 * random.Rnd());
 }
 
@@ -80,7 +80,7 @@ void FoodPileUpdate(World& world, RandomSource& random, AntIndex* index) {
     if (world.Settings.CurrentTool == 1 && world.MouseHeld) AdjustFoodAtCursor(world, j);
     FoodPile& pile = world.FoodPiles[j];
     Cell& cell = world.Cells(pile.X, pile.Y);
-    const bool walled = CellHasObjectType(world, PlasterBrickType, pile.X, pile.Y);
+    const bool walled = CellHasObjectType(cell, PlasterBrickType);
     if (world.Running && !walled) FeedAnts(world, index, pile, cell);
     pile.Amount = cell.Food;
     if (pile.Amount == 0) {

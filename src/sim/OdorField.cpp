@@ -17,21 +17,29 @@ double ScentColour(double scent, double foodScentMax, double nestScentMax) {
 }
 
 void CellUpdate(World& world, TickPainter& painter) {
+  // The painter sees the world read-only: the settings hold for the whole pass.
   const WorldSettings& s = world.Settings;
-  for (int x = 1; x <= s.GridX; ++x) {
-    for (int y = 1; y <= s.GridY; ++y) {
-      Cell& cell = world.Cells(x, y);
-      if (CellHasObjectType(world, PlasterBrickType, x, y)) {
+  const int gridX = s.GridX;
+  const int gridY = s.GridY;
+  const int foodScentMax = s.FoodScentMax;
+  const int nestScentMax = s.NestScentMax;
+  const bool running = world.Running;
+  constexpr Signature unmarked = Signature::Unmarked();
+  for (int x = 1; x <= gridX; ++x) {
+    Cell* column = world.Cells.Column(x);
+    for (int y = 1; y <= gridY; ++y) {
+      Cell& cell = column[y];
+      if (CellHasObjectType(cell, PlasterBrickType)) {
         cell.Scent = 0;
-        cell.Signature = Signature::Unmarked();
+        cell.Signature = unmarked;
       }
       if (cell.Scent != 0 || cell.AntCount != 0) {
-        if (cell.Scent > s.FoodScentMax) cell.Scent = s.FoodScentMax;
-        if (cell.Scent < -s.NestScentMax) cell.Scent = -s.NestScentMax;
-        cell.Colour = ScentColour(cell.Scent, s.FoodScentMax, s.NestScentMax);
+        if (cell.Scent > foodScentMax) cell.Scent = foodScentMax;
+        if (cell.Scent < -nestScentMax) cell.Scent = -nestScentMax;
+        cell.Colour = ScentColour(cell.Scent, foodScentMax, nestScentMax);
         // The painter decides whether odor traces are shown.
         painter.DrawCell(world, cell);
-        if (world.Running) {
+        if (running) {
           if (cell.Scent > 0) {
             cell.Scent -= 1;
           } else if (cell.Scent < 0) {
@@ -39,7 +47,8 @@ void CellUpdate(World& world, TickPainter& painter) {
           }
         }
       }
-      if (cell.Scent == 0) cell.Signature = Signature::Unmarked();
+      // Most cells are already unmarked: leave their memory untouched.
+      if (cell.Scent == 0 && cell.Signature != unmarked) cell.Signature = unmarked;
     }
   }
 }

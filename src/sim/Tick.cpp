@@ -31,6 +31,13 @@ void AntPass(World& world, RandomSource& random, TickPainter& painter) {
   }
 }
 
+// Ant records of every nest, queens and unremoved dead included.
+int AntRecordCount(const World& world) {
+  int records = 0;
+  for (int n = 0; n < world.NestCount; ++n) records += world.Nests[static_cast<size_t>(n)].AntCount();
+  return records;
+}
+
 // Clears TickInProgress however the tick ends.
 class TickGuard {
  public:
@@ -56,20 +63,19 @@ void Timer1_Timer(TickContext& context) {
   painter.ClearViews(world);
   if (world.Settings.CurrentTool == 3 && world.MouseHeld) RemoveAntsAtCursor(world, random);
 
-  // No ant moves before the ant pass, but upkeep renumbers ants as it
-  // removes bodies: the pile pass gets an index of its own.
-  const bool indexed = world.Running && context.UseAntIndex;
-  if (indexed) {
+  // No ant moves before the ant pass, but upkeep renumbers ants when it
+  // removes bodies or nests: the pile pass then needs a fresh index. Ants
+  // that die in upkeep may stay in it, since a dead ant takes no bite.
+  if (world.Running && context.UseAntIndex) {
     AntIndex index(world);
     ResolveEncounters(world, &index);
-  } else {
-    ResolveEncounters(world, nullptr);
-  }
-  AntUpkeep(world);
-  if (indexed) {
-    AntIndex index(world);
+    const int records = AntRecordCount(world);
+    AntUpkeep(world);
+    if (AntRecordCount(world) != records) index = AntIndex(world);
     FoodPileUpdate(world, random, &index);
   } else {
+    ResolveEncounters(world, nullptr);
+    AntUpkeep(world);
     FoodPileUpdate(world, random, nullptr);
   }
   CellUpdate(world, painter);

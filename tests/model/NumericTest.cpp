@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <limits>
+#include <vector>
 
 namespace keldor {
 namespace {
@@ -18,6 +19,34 @@ TEST(NumericTest, CIntRoundsHalfToEven) {
   EXPECT_EQ(CInt(-7.9), -8);
   EXPECT_EQ(CInt(std::nan("")), 0);
   EXPECT_EQ(CInt(1e300), std::numeric_limits<int32_t>::max());
+}
+
+// The inline fast paths must agree with the library's rounding everywhere:
+// halves, negatives, signed zeros, the fast-range borders and beyond.
+TEST(NumericTest, CIntAndIntAgreeWithTheLibrary) {
+  std::vector<double> values = {0.0, -0.0, 0x1p30, -0x1p30, 0x1p30 - 0.5, -0x1p30 + 0.5, 2147483646.5,
+                                -2147483647.5, 0x1p52, -0x1p52, 0x1p52 + 1, 4503599627370495.5, 1e300,
+                                -1e300, std::numeric_limits<double>::infinity(), 0.49999999999999994,
+                                -0.49999999999999994, std::numeric_limits<double>::denorm_min()};
+  for (int k = -2000; k <= 2000; ++k) {
+    values.push_back(k + 0.5);
+    values.push_back(k * 1048575.75 + 0.5);
+    values.push_back(std::nextafter(k + 0.5, 0.0));
+    values.push_back(std::nextafter(k + 0.5, k + 1.0));
+    values.push_back(k / 7.0);
+  }
+  for (double v : values) {
+    for (double x : {v, -v}) {
+      const double rounded = std::nearbyint(x);
+      const int32_t expected = rounded >= 2147483647.0    ? std::numeric_limits<int32_t>::max()
+                               : rounded <= -2147483648.0 ? std::numeric_limits<int32_t>::min()
+                                                          : static_cast<int32_t>(rounded);
+      EXPECT_EQ(CInt(x), expected) << x;
+      const double floored = Int(x);
+      EXPECT_EQ(floored, std::floor(x)) << x;
+      EXPECT_EQ(std::signbit(floored), std::signbit(std::floor(x))) << x;
+    }
+  }
 }
 
 TEST(NumericTest, IntIsTheFloor) {
