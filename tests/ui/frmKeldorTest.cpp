@@ -130,11 +130,23 @@ class frmKeldorTest : public QObject {
     QCOMPARE(palette->height(), collapsed);
   }
 
-  void windowSnapsBackToItsMinimumSize() {
+  void layoutFillsTheClientAreaAndSnapsBack() {
+    // The views reach the bottom and right edges of the client area, whatever
+    // frame the window system draws, with no empty band below the scroll bar.
+    QWidget* client = window_->centralWidget();
+    const auto checkEdges = [&] {
+      const int bottomGap = client->height() - Child<QWidget>(window_.get(), "HScroll1")->geometry().bottom() - 1;
+      const int rightGap = client->width() - Child<QWidget>(window_.get(), "fraInfo")->geometry().right() - 1;
+      QVERIFY2(bottomGap >= 0 && bottomGap <= 3, qPrintable(QString::number(bottomGap)));
+      QVERIFY2(rightGap >= 0 && rightGap <= 5, qPrintable(QString::number(rightGap)));
+    };
+    checkEdges();
     window_->resize(200, 150);
-    QTRY_VERIFY(window_->frameGeometry().width() * window_->Scale().TwipsPerPixel() >= 9465 - 15);
-    QTRY_VERIFY(window_->frameGeometry().height() * window_->Scale().TwipsPerPixel() >= 7545 - 15);
-    QCOMPARE(window_->Layout().Width, 9465.0);
+    const double perPixel = window_->Scale().TwipsPerPixel();
+    QTRY_VERIFY(client->width() * perPixel + ClassicFrameWidth >= MinWindowWidth - perPixel);
+    QTRY_VERIFY(client->height() * perPixel + ClassicFrameHeight >= MinWindowHeight - perPixel);
+    QCOMPARE(window_->Layout().Width, MinWindowWidth);
+    checkEdges();
   }
 
   void hidingThePanelKeepsTheCentre() {
