@@ -35,6 +35,22 @@ class frmKeldorTest : public QObject {
   void startsWithoutAWorld() {
     QCOMPARE(window_->windowTitle(), QString("Keldor"));
     QVERIFY(!Child<QPushButton>(window_.get(), "btnStop")->isEnabled());
+    // Disabled buttons show a faint picture, dark ink included.
+    for (const char* name : {"btnStop", "cmdZoomIn", "cmdZoomOut", "btnOdor", "btnAnts"}) {
+      auto* button = Child<QPushButton>(window_.get(), name);
+      QVERIFY(!button->isEnabled());
+      const auto ink = [&](QIcon::Mode mode) {
+        const QImage image = button->icon().pixmap(24, mode).toImage().convertToFormat(QImage::Format_ARGB32);
+        double darkness = 0;
+        for (int y = 0; y < image.height(); ++y) {
+          for (int x = 0; x < image.width(); ++x) {
+            darkness += qAlpha(image.pixel(x, y)) * (255 - qGray(image.pixel(x, y)));
+          }
+        }
+        return darkness;
+      };
+      QVERIFY2(ink(QIcon::Disabled) < 0.5 * ink(QIcon::Normal), name);
+    }
     QVERIFY(!window_->TheWorld().HasWorld());
     QTest::qWait(200);
     QCOMPARE(window_->TicksRun(), 0);
