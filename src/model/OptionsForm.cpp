@@ -77,11 +77,8 @@ void OptionsForm::txtAntsColour_Change(ColourBox box, const std::string& text) {
 }
 
 void OptionsForm::txtGridDimX_Change(const std::string& text) {
-  gridX_ = text;
-  if (IsNumeric(text)) {
-    const int32_t size = CInt(ToNumber(text));
-    if (size < MinGridSize || size > MaxGridSize) gridX_ = CStr(std::clamp<int32_t>(size, MinGridSize, MaxGridSize));
-  }
+  // A number shows at once as the size New builds from it.
+  gridX_ = IsNumeric(text) ? CStr(GridSizeFromText(text)) : text;
   // The grid is square.
   gridY_ = gridX_;
 }

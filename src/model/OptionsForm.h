@@ -6,8 +6,9 @@
 // Open points decided here:
 //  - An edited grid size is taken over on OK and kept in the world until the
 //    next New builds a grid of that size; reopening the dialog shows it.
-//  - The grid box holds only MinGridSize..MaxGridSize: a number outside is
-//    replaced by the nearest size the program can build.
+//  - The grid box holds only sizes the program can build: a number is
+//    replaced at once by the size New makes of it (0 gives 20, a number
+//    outside MinGridSize..MaxGridSize the nearest size within).
 //  - OK with a colour box that holds no number keeps that colour component as
 //    it was; nothing is made up from an unreadable text.
 #pragma once

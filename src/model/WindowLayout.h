@@ -19,6 +19,14 @@ struct TwipRect {
 inline constexpr double MinWindowWidth = 9465;
 inline constexpr double MinWindowHeight = 7545;
 
+// The margins of the layout rules assume a classic desktop frame around the
+// client area: 4-pixel borders, a 19-pixel caption and a 20-pixel menu bar
+// (twips at 96 dpi). The window's outer size is its client area plus this
+// frame, whatever frame the window system really draws, so that the views
+// fill the client area alike on every desktop.
+inline constexpr double ClassicFrameWidth = 2 * 60;
+inline constexpr double ClassicFrameHeight = 2 * 60 + 285 + 300;
+
 // Quick-toggle colours: green while its panel shows, red while hidden.
 inline constexpr double QuickShownColour = 0x00FF00;
 inline constexpr double QuickHiddenColour = 0x0000FF;

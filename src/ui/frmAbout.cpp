@@ -31,7 +31,7 @@ frmAbout::frmAbout(Registry& registry, ProgramStarter& starter, MessageBox& mess
   auto* lblDescription = new QLabel(AuthorshipText);
   lblDescription->setObjectName("lblDescription");
   auto* lblDisclaimer =
-      new QLabel(QString("Keldor is freeware: you may use and share it freely. ") + WebAddressText);
+      new QLabel(QString("Keldor is freeware: you may use and share it freely.\n") + WebAddressText);
   lblDisclaimer->setObjectName("lblDisclaimer");
   lblDisclaimer->setWordWrap(true);
 
@@ -43,17 +43,25 @@ frmAbout::frmAbout(Registry& registry, ProgramStarter& starter, MessageBox& mess
   cmdSysInfo->setObjectName("cmdSysInfo");
   connect(cmdSysInfo, &QPushButton::clicked, this, [this] { StartSysInfo(registry_, starter_, messages_); });
 
-  auto* grid = new QGridLayout(this);
-  grid->addWidget(picIcon, 0, 0, 2, 1, Qt::AlignTop);
-  grid->addWidget(lblTitle, 0, 1);
-  grid->addWidget(lblTitle2, 1, 1);
-  grid->addWidget(lblDescription, 2, 1);
-  grid->addWidget(lblDisclaimer, 3, 0, 1, 3);
+  // The icon, the title lines and the buttons side by side, each column
+  // packed at the top; the notice below across the whole width.
+  auto* titles = new QVBoxLayout;
+  titles->setSpacing(2);
+  titles->addWidget(lblTitle);
+  titles->addWidget(lblTitle2);
+  titles->addSpacing(6);
+  titles->addWidget(lblDescription);
+  titles->addStretch();
   auto* buttons = new QVBoxLayout;
   buttons->addWidget(cmdOK);
   buttons->addWidget(cmdSysInfo);
   buttons->addStretch();
-  grid->addLayout(buttons, 0, 2, 3, 1);
+  auto* grid = new QGridLayout(this);
+  grid->addWidget(picIcon, 0, 0, Qt::AlignTop);
+  grid->addLayout(titles, 0, 1);
+  grid->addLayout(buttons, 0, 2);
+  grid->addWidget(lblDisclaimer, 1, 0, 1, 3);
+  grid->setColumnStretch(1, 1);
   setMinimumWidth(420);
 }
 

@@ -3,6 +3,7 @@
 #include <QCloseEvent>
 #include <QFrame>
 #include <QLabel>
+#include <QLayout>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScrollBar>
@@ -68,7 +69,9 @@ frmKeldor::frmKeldor(MessageBox& messages, Clock& clock, QWidget* parent)
   Form_Load(world_);
   timer1_.setInterval(Timer1IntervalMs);
   connect(&timer1_, &QTimer::timeout, this, &frmKeldor::Timer1_Timer);
-  resize(scale_.Pixels(InitialWidth), scale_.Pixels(InitialHeight));
+  resize(scale_.Pixels(InitialWidth - ClassicFrameWidth),
+         scale_.Pixels(InitialHeight - ClassicFrameHeight) + menuBar()->sizeHint().height());
+  layout()->activate();  // sizes the client area before the first show
   DoResize();
 }
 
@@ -289,9 +292,10 @@ void frmKeldor::closeEvent(QCloseEvent* event) {
 
 void frmKeldor::DoResize() {
   if (isMinimized()) return;
-  const QRect outer = frameGeometry();
-  const double width = scale_.Twips(outer.width());
-  const double height = scale_.Twips(outer.height());
+  // The menu bar lies outside the client area, as the layout expects.
+  const QSize client = centralWidget()->size();
+  const double width = scale_.Twips(client.width()) + ClassicFrameWidth;
+  const double height = scale_.Twips(client.height()) + ClassicFrameHeight;
   Form_Resize(world_, layout_, width, height);
   if (layout_.Width > width || layout_.Height > height) {
     const int growX = static_cast<int>(std::ceil((layout_.Width - width) / scale_.TwipsPerPixel()));

@@ -136,6 +136,10 @@ frmOptions::frmOptions(World& world, QWidget* parent) : QDialog(parent), form_(w
   ShowFields();
 }
 
+frmOptions::~frmOptions() {
+  for (const TextBox& box : boxes_) box.edit->disconnect(this);
+}
+
 QLineEdit* frmOptions::AddTextBox(const char* name, std::function<const std::string&()> text,
                                   std::function<void(const std::string&)> changed) {
   auto* edit = new QLineEdit;

@@ -23,6 +23,9 @@ class frmOptions : public QDialog {
 
  public:
   frmOptions(World& world, QWidget* parent = nullptr);
+  // A box that still has the focus loses it while the widgets go: that late
+  // "editing finished" must not reach the form, which is already gone.
+  ~frmOptions() override;
 
   const OptionsForm& Form() const { return form_; }
 

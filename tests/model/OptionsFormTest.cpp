@@ -156,7 +156,7 @@ TEST(OptionsFormTest, GridBoxHoldsOnlySizesTheProgramCanBuild) {
   form.txtGridDimX_Change("500");
   EXPECT_EQ(form.GridDimXText(), "181");
   form.txtGridDimX_Change("0");
-  EXPECT_EQ(form.GridDimXText(), "1");
+  EXPECT_EQ(form.GridDimXText(), "20");  // as New reads a 0
   form.txtGridDimX_Change("-3");
   EXPECT_EQ(form.GridDimYText(), "1");
   // A box left without a number changes nothing on OK.

@@ -35,6 +35,22 @@ class frmKeldorTest : public QObject {
   void startsWithoutAWorld() {
     QCOMPARE(window_->windowTitle(), QString("Keldor"));
     QVERIFY(!Child<QPushButton>(window_.get(), "btnStop")->isEnabled());
+    // Disabled buttons show a faint picture, dark ink included.
+    for (const char* name : {"btnStop", "cmdZoomIn", "cmdZoomOut", "btnOdor", "btnAnts"}) {
+      auto* button = Child<QPushButton>(window_.get(), name);
+      QVERIFY(!button->isEnabled());
+      const auto ink = [&](QIcon::Mode mode) {
+        const QImage image = button->icon().pixmap(24, mode).toImage().convertToFormat(QImage::Format_ARGB32);
+        double darkness = 0;
+        for (int y = 0; y < image.height(); ++y) {
+          for (int x = 0; x < image.width(); ++x) {
+            darkness += qAlpha(image.pixel(x, y)) * (255 - qGray(image.pixel(x, y)));
+          }
+        }
+        return darkness;
+      };
+      QVERIFY2(ink(QIcon::Disabled) < 0.5 * ink(QIcon::Normal), name);
+    }
     QVERIFY(!window_->TheWorld().HasWorld());
     QTest::qWait(200);
     QCOMPARE(window_->TicksRun(), 0);
@@ -130,11 +146,23 @@ class frmKeldorTest : public QObject {
     QCOMPARE(palette->height(), collapsed);
   }
 
-  void windowSnapsBackToItsMinimumSize() {
+  void layoutFillsTheClientAreaAndSnapsBack() {
+    // The views reach the bottom and right edges of the client area, whatever
+    // frame the window system draws, with no empty band below the scroll bar.
+    QWidget* client = window_->centralWidget();
+    const auto checkEdges = [&] {
+      const int bottomGap = client->height() - Child<QWidget>(window_.get(), "HScroll1")->geometry().bottom() - 1;
+      const int rightGap = client->width() - Child<QWidget>(window_.get(), "fraInfo")->geometry().right() - 1;
+      QVERIFY2(bottomGap >= 0 && bottomGap <= 3, qPrintable(QString::number(bottomGap)));
+      QVERIFY2(rightGap >= 0 && rightGap <= 5, qPrintable(QString::number(rightGap)));
+    };
+    checkEdges();
     window_->resize(200, 150);
-    QTRY_VERIFY(window_->frameGeometry().width() * window_->Scale().TwipsPerPixel() >= 9465 - 15);
-    QTRY_VERIFY(window_->frameGeometry().height() * window_->Scale().TwipsPerPixel() >= 7545 - 15);
-    QCOMPARE(window_->Layout().Width, 9465.0);
+    const double perPixel = window_->Scale().TwipsPerPixel();
+    QTRY_VERIFY(client->width() * perPixel + ClassicFrameWidth >= MinWindowWidth - perPixel);
+    QTRY_VERIFY(client->height() * perPixel + ClassicFrameHeight >= MinWindowHeight - perPixel);
+    QCOMPARE(window_->Layout().Width, MinWindowWidth);
+    checkEdges();
   }
 
   void hidingThePanelKeepsTheCentre() {

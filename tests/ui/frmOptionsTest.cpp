@@ -121,6 +121,19 @@ class frmOptionsTest : public QObject {
     QVERIFY(!w.OptionsOpen);
   }
 
+  void destroyingTheDialogWhileABoxHasTheFocus() {
+    auto* dialog = new frmOptions(window_->TheWorld(), window_.get());
+    dialog->show();
+    dialog->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(dialog));
+    auto* box = Child<QLineEdit>(dialog, "txtNumAnts");
+    box->setFocus();
+    QTest::keyClicks(box, "5");
+    QTRY_VERIFY(box->hasFocus());
+    delete dialog;
+    QVERIFY(!window_->TheWorld().OptionsOpen);
+  }
+
   void closingTheMainWindowClosesTheDialog() {
     bool dialogClosed = false;
     testing::AnswerNextModal([&](QWidget*) { window_->close(); });
