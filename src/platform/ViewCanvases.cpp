@@ -1,5 +1,8 @@
 #include "platform/ViewCanvases.h"
 
+#include <cmath>
+
+#include "model/Viewport.h"
 #include "platform/FrameImage.h"
 
 namespace keldor {
@@ -11,6 +14,11 @@ void ResizeTo(QtCanvas& canvas, QSize size) {
 }
 
 }  // namespace
+
+QSize MapBoxPixels() {
+  const int side = static_cast<int>(std::lround(MapBoxSize / TwipsPerPixel));
+  return {side, side};
+}
 
 ViewCanvases::ViewCanvases(QSize terrain, QSize map, double devicePixelRatio)
     : terrain_(terrain.width(), terrain.height(), devicePixelRatio),

@@ -12,6 +12,9 @@
 
 namespace keldor {
 
+// The mini-map box in logical pixels at 15 twips per pixel (a 96 dpi screen).
+QSize MapBoxPixels();
+
 class ViewCanvases {
  public:
   // Sizes are in logical pixels.

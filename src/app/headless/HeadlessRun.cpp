@@ -1,7 +1,6 @@
 #include "app/headless/HeadlessRun.h"
 
 #include <chrono>
-#include <cmath>
 #include <iomanip>
 #include <memory>
 #include <optional>
@@ -16,7 +15,6 @@
 #include "app/headless/TickLoop.h"
 #include "app/headless/WorldSetup.h"
 #include "model/Random.h"
-#include "model/Viewport.h"
 #include "model/World.h"
 #include "platform/SystemClock.h"
 #include "platform/ViewCanvases.h"
@@ -38,12 +36,6 @@ void PrintSummary(std::ostream& out, const World& world, int64_t ticks, double s
   out << ProgramName << ": " << ticks << " ticks, population " << world.Settings.Population << ", "
       << world.NestCount << " nests, " << world.FoodPileCount() << " food piles, " << std::fixed
       << std::setprecision(1) << ticksPerSecond << " ticks/s" << std::endl;
-}
-
-// The mini-map box in pixels, as the window sizes it.
-QSize MapViewPixels() {
-  const int side = static_cast<int>(std::lround(MapBoxSize / TwipsPerPixel));
-  return {side, side};
 }
 
 }  // namespace
@@ -74,7 +66,7 @@ int RunHeadless(const QStringList& arguments, std::ostream& out, std::ostream& e
   // last tick gives the frame the window shows after it.
   NullPainter noDrawing;
   std::optional<ViewCanvases> views;
-  if (files.Png() != nullptr) views.emplace(QSize(options.View.Width, options.View.Height), MapViewPixels());
+  if (files.Png() != nullptr) views.emplace(QSize(options.View.Width, options.View.Height), MapBoxPixels());
   TickPainter& lastTickPainter = views ? static_cast<TickPainter&>(views->Painter()) : noDrawing;
   const TickLoop loop{world, random, messages, virtualClock ? &*virtualClock : nullptr};
   const auto start = std::chrono::steady_clock::now();
