@@ -1,5 +1,5 @@
 // One full frame (clear, cells with numbers, walls, nests, food piles, ants,
-// frames, zoom label) through ViewPainter on two Qt canvases, for three
+// frames, zoom label) through ViewPainter on the two view canvases, for three
 // worlds, at the design view size and at 1920 x 1080.
 //
 // The worlds are built with New and CreateNest and then given a spread of
@@ -15,8 +15,7 @@
 #include "model/Random.h"
 #include "model/World.h"
 #include "model/WorldCreation.h"
-#include "platform/QtCanvas.h"
-#include "render/ViewPainter.h"
+#include "platform/ViewCanvases.h"
 #include "support/PaintFrame.h"
 
 namespace keldor {
@@ -142,13 +141,10 @@ void RenderFrame(benchmark::State& state, World (*build)(), bool fullHd) {
     height = 1080;
     ResizeTerrainView(world, width * TwipsPerPixel, height * TwipsPerPixel);
   }
-  QtCanvas terrain(width, height);
-  const int mapPixels = static_cast<int>(MapBoxSize / TwipsPerPixel);
-  QtCanvas map(mapPixels, mapPixels);
-  ViewPainter painter(terrain, map);
+  ViewCanvases views(QSize(width, height), MapBoxPixels());
   for (auto _ : state) {
-    testing::PaintFrame(world, painter);
-    benchmark::DoNotOptimize(terrain.Image().constBits());
+    testing::PaintFrame(world, views.Painter());
+    benchmark::DoNotOptimize(views.Terrain().Image().constBits());
   }
   int ants = 0;
   for (const Nest& nest : world.Nests) ants += nest.AntCount();

@@ -52,9 +52,7 @@ frmKeldor::frmKeldor(MessageBox& messages, Clock& clock, QWidget* parent)
       scale_(TwipScale::ForWidget(*this)),
       registry_(MakeSystemRegistry()),
       starter_(std::make_unique<QtProgramStarter>()),
-      terrainCanvas_(1, 1, devicePixelRatioF()),
-      mapCanvas_(scale_.Pixels(MapBox.Width), scale_.Pixels(MapBox.Height), devicePixelRatioF()),
-      painter_(terrainCanvas_, mapCanvas_) {
+      canvases_(QSize(1, 1), QSize(scale_.Pixels(MapBox.Width), scale_.Pixels(MapBox.Height)), devicePixelRatioF()) {
   setObjectName("frmKeldor");
   setWindowTitle(ApplicationTitle);
   setWindowIcon(AppIcon());
@@ -264,7 +262,7 @@ void frmKeldor::Timer1_Timer() {
   // and those ticks are skipped.
   if (inTick_) return;
   inTick_ = true;
-  TickContext context{world_, random_, painter_, messages_};
+  TickContext context{world_, random_, canvases_.Painter(), messages_};
   keldor::Timer1_Timer(context);
   inTick_ = false;
   ++ticksRun_;
@@ -274,8 +272,8 @@ void frmKeldor::Timer1_Timer() {
 }
 
 void frmKeldor::ShowFrame() {
-  picTerreno_->SetFrame(terrainCanvas_.Image());
-  if (world_.Controls.InfoVisible) picMapa_->SetFrame(mapCanvas_.Image());
+  picTerreno_->SetFrame(canvases_.Terrain().Image());
+  if (world_.Controls.InfoVisible) picMapa_->SetFrame(canvases_.Map().Image());
 }
 
 void frmKeldor::resizeEvent(QResizeEvent* event) {
@@ -333,12 +331,7 @@ void frmKeldor::ResizeCanvases() {
   // A tick may be waiting inside the population-limit message, halfway
   // through its drawing: the canvases follow the boxes once it is done.
   if (inTick_) return;
-  const QSize terrain = picTerreno_->size();
-  if (terrainCanvas_.Image().size() != terrain * terrainCanvas_.DevicePixelRatio()) {
-    terrainCanvas_.Resize(terrain.width(), terrain.height());
-  }
-  const QSize map = picMapa_->size();
-  if (mapCanvas_.Image().size() != map * mapCanvas_.DevicePixelRatio()) mapCanvas_.Resize(map.width(), map.height());
+  canvases_.Resize(picTerreno_->size(), picMapa_->size());
 }
 
 void frmKeldor::ShowControls() {

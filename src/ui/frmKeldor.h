@@ -14,8 +14,7 @@
 #include "model/Random.h"
 #include "model/WindowLayout.h"
 #include "model/World.h"
-#include "platform/QtCanvas.h"
-#include "render/ViewPainter.h"
+#include "platform/ViewCanvases.h"
 #include "ui/TwipScale.h"
 
 class QAction;
@@ -88,9 +87,7 @@ class frmKeldor : public QMainWindow {
   TwipScale scale_;
   std::unique_ptr<Registry> registry_;
   std::unique_ptr<ProgramStarter> starter_;
-  QtCanvas terrainCanvas_;
-  QtCanvas mapCanvas_;
-  ViewPainter painter_;
+  ViewCanvases canvases_;
   QTimer timer1_;
   bool inTick_ = false;
   bool showing_ = false;

@@ -17,6 +17,7 @@
 #include "model/Random.h"
 #include "model/World.h"
 #include "platform/SystemClock.h"
+#include "platform/ViewCanvases.h"
 #include "sim/TickPainter.h"
 
 namespace keldor::headless {
@@ -61,10 +62,15 @@ int RunHeadless(const QStringList& arguments, std::ostream& out, std::ostream& e
   if (files.Csv() != nullptr) csv.emplace(*files.Csv());
 
   StreamMessageBox messages(err);
-  NullPainter painter;
+  // Every tick clears both views and draws them whole, so drawing only the
+  // last tick gives the frame the window shows after it.
+  NullPainter noDrawing;
+  std::optional<ViewCanvases> views;
+  if (files.Png() != nullptr) views.emplace(QSize(options.View.Width, options.View.Height), MapBoxPixels());
+  TickPainter& lastTickPainter = views ? static_cast<TickPainter&>(views->Painter()) : noDrawing;
   const TickLoop loop{world, random, messages, virtualClock ? &*virtualClock : nullptr};
   const auto start = std::chrono::steady_clock::now();
-  RunTicks(loop, options.Ticks, painter, painter, [&](int64_t tick) {
+  RunTicks(loop, options.Ticks, noDrawing, lastTickPainter, [&](int64_t tick) {
     if (csv) csv->WriteRow(tick, world);
   });
   const std::chrono::duration<double> elapsed = std::chrono::steady_clock::now() - start;
@@ -75,6 +81,11 @@ int RunHeadless(const QStringList& arguments, std::ostream& out, std::ostream& e
   if (QFile* json = files.Json()) {
     if (json->write(QJsonDocument(StateJson(world, options.Ticks)).toJson()) < 0 || !json->flush()) {
       return Fail(err, "--json: writing '" + options.JsonPath.toStdString() + "' failed", ExitWriteFailed);
+    }
+  }
+  if (QFile* png = files.Png()) {
+    if (!views->Frame().save(png, "PNG") || !png->flush()) {
+      return Fail(err, "--png: writing '" + options.PngPath.toStdString() + "' failed", ExitWriteFailed);
     }
   }
   PrintSummary(out, world, options.Ticks, elapsed.count());

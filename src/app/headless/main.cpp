@@ -1,11 +1,14 @@
 // keldor-headless: runs a Keldor world without a window (see --help).
 #include <iostream>
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 
 #include "app/headless/HeadlessRun.h"
 
 int main(int argc, char* argv[]) {
-  QCoreApplication app(argc, argv);
-  return keldor::headless::RunHeadless(QCoreApplication::arguments(), std::cout, std::cerr);
+  // The PNG frame is drawn with fonts, which need a GUI application; the
+  // offscreen platform lets it run without a display.
+  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  QGuiApplication app(argc, argv);
+  return keldor::headless::RunHeadless(QGuiApplication::arguments(), std::cout, std::cerr);
 }

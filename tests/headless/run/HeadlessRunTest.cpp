@@ -48,6 +48,7 @@ TEST_F(HeadlessRunTest, BadArgumentsExitWithStatusTwoNamingThem) {
            {{"--ant-size", "9"}, "--ant-size"},
            {{"--json", unwritable}, "--json"},
            {{"--csv", dir.path()}, "--csv"},
+           {{"--png", dir.path()}, "--png"},
        }) {
     const InProcessRun run(arguments);
     EXPECT_EQ(run.status, ExitBadArguments) << named;
