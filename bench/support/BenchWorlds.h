@@ -1,0 +1,49 @@
+// The worlds the benchmarks measure, built the way a user would: New, nests
+// placed with CreateNest, walls with the wall tool, then real ticks with
+// nothing drawn. Every world uses a fixed virtual clock, so runs repeat.
+#pragma once
+
+#include <memory>
+
+#include "model/MessageBox.h"
+#include "model/Random.h"
+#include "model/World.h"
+#include "sim/Tick.h"
+#include "sim/TickPainter.h"
+
+namespace keldor::bench {
+
+class SilentMessageBox : public MessageBox {
+ public:
+  void Show(const std::string&) override {}
+};
+
+struct BenchWorld {
+  VirtualClock clock{11};
+  RandomSource random{clock};
+  World world;
+  NullPainter painter;
+  SilentMessageBox messages;
+  TickContext context{world, random, painter, messages};
+
+  // A new running world; a negative foodRate or antsPerNest keeps the
+  // start-up default.
+  BenchWorld(int grid, int foodRate, int antsPerNest);
+  BenchWorld(const BenchWorld&) = delete;
+  BenchWorld& operator=(const BenchWorld&) = delete;
+
+  void AddNest(int x, int y);
+  // Runs count ticks 0.075 s apart, staying running past the population-limit pause.
+  void Tick(int count = 1);
+};
+
+// 30 x 30 grid, start-up settings, the one nest New makes.
+std::unique_ptr<BenchWorld> DefaultWorld();
+// 30 x 30 grid, New's nest removed, four nests of 480 ants.
+std::unique_ptr<BenchWorld> CrowdedWorld();
+// 100 x 100 grid, food rate 10, ten nests of 200 ants, 200 walls.
+std::unique_ptr<BenchWorld> LargeWorld();
+// 100 x 100 grid, `nests` nests of 200 ants, food rate twice the nest count.
+std::unique_ptr<BenchWorld> ScalingWorld(int nests);
+
+}  // namespace keldor::bench
