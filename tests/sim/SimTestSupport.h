@@ -1,32 +1,20 @@
-// Shared helpers for the tick tests: a recording painter and message box, and
-// the invariants a world must keep after every tick.
+// Shared helpers for the tick tests: a recording message box, a ready-to-tick
+// world, and the bookkeeping a world must keep.
 #pragma once
+
+#include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
 
 #include "model/MessageBox.h"
 #include "model/World.h"
+#include "model/WorldCreation.h"
 #include "sim/Tick.h"
 #include "sim/TickPainter.h"
 #include "support/TestWorld.h"
 
 namespace keldor::testing {
-
-// Records the name of each painter call, in order.
-class RecordingPainter : public TickPainter {
- public:
-  std::vector<std::string> Calls;
-  void ClearViews(const World&) override { Calls.push_back("ClearViews"); }
-  void DrawCell(const World&, const Cell&) override { Calls.push_back("DrawCell"); }
-  void DrawWalls(const World&) override { Calls.push_back("DrawWalls"); }
-  void DrawNests(const World&) override { Calls.push_back("DrawNests"); }
-  void DrawFoodPiles(const World&) override { Calls.push_back("DrawFoodPiles"); }
-  void DrawAnt(const World&, const Nest&, int) override { Calls.push_back("DrawAnt"); }
-  void DrawViewFrames(const World&) override { Calls.push_back("DrawViewFrames"); }
-  void DrawZoomLabel(const World&) override { Calls.push_back("DrawZoomLabel"); }
-  void FinishFrame(const World&) override { Calls.push_back("FinishFrame"); }
-};
 
 // Records every message; while "open" it runs a nested tick, which must not start.
 class RecordingMessageBox : public MessageBox {
@@ -36,19 +24,18 @@ class RecordingMessageBox : public MessageBox {
   bool NestedTickStarted = false;
   void Show(const std::string& text) override {
     Shown.push_back(text);
-    if (Reenter != nullptr) {
-      const std::string before = Reenter->world.Controls.PopulationCaption;
-      Reenter->world.Controls.PopulationCaption = "marker";
-      Timer1_Timer(*Reenter);
-      NestedTickStarted = Reenter->world.Controls.PopulationCaption != "marker";
-      Reenter->world.Controls.PopulationCaption = before;
-    }
+    if (Reenter == nullptr) return;
+    const std::string before = Reenter->world.Controls.PopulationCaption;
+    Reenter->world.Controls.PopulationCaption = "marker";
+    Timer1_Timer(*Reenter);
+    NestedTickStarted = Reenter->world.Controls.PopulationCaption != "marker";
+    Reenter->world.Controls.PopulationCaption = before;
   }
 };
 
 // A test world with its own painter and message box, ready to tick.
 struct TickRig {
-  explicit TickRig(uint64_t seed = 1, const NewWorldInputs& inputs = {}) : test(seed, inputs) {}
+  explicit TickRig(uint64_t seed = 1) : test(seed) {}
   TestWorld test;
   NullPainter nullPainter;
   RecordingMessageBox messages;
@@ -58,8 +45,19 @@ struct TickRig {
     test.clock.Advance(0.075);
     Timer1_Timer(context);
   }
+  void AddNestAt(int x, int y) {
+    world().CursorCellX = static_cast<int16_t>(x);
+    world().CursorCellY = static_cast<int16_t>(y);
+    ASSERT_TRUE(CreateNest(world(), test.random));
+  }
 };
 
-int LivingAnts(const World& world);
+inline int LivingAnts(const World& world) {
+  int living = 0;
+  for (int n = 0; n < world.NestCount; ++n) {
+    for (const Ant& ant : world.Nests[static_cast<size_t>(n)].Ants) living += ant.Energy > 0 ? 1 : 0;
+  }
+  return living;
+}
 
 }  // namespace keldor::testing

@@ -1,12 +1,10 @@
-// The tick's phase order, what runs while paused, the population limit and
-// the removal rules of its loops.
+// What the tick runs while paused, the scent pass, the
+// population limit, births, bites and the removal rules of its loops.
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cmath>
 
 #include "SimTestSupport.h"
-#include "model/WorldCreation.h"
 #include "sim/Births.h"
 #include "sim/Editing.h"
 #include "sim/Encounters.h"
@@ -16,34 +14,11 @@
 namespace keldor::testing {
 namespace {
 
-TEST(Tick, PainterCallsFollowThePhaseOrder) {
-  TickRig rig(3);
-  RecordingPainter painter;
-  TickContext context{rig.world(), rig.test.random, painter, rig.messages};
-  rig.world().ShowAnts = 1;
-  Timer1_Timer(context);
-  std::vector<std::string> layers;
-  for (const std::string& call : painter.Calls) {
-    if (layers.empty() || layers.back() != call) layers.push_back(call);
-  }
-  const std::vector<std::string> expected{"ClearViews", "DrawCell",       "DrawWalls",     "DrawNests", "DrawFoodPiles",
-                                          "DrawAnt",    "DrawViewFrames", "DrawZoomLabel", "FinishFrame"};
-  EXPECT_EQ(layers, expected);
-
-  painter.Calls.clear();
-  rig.world().ShowAnts = 0;
-  Timer1_Timer(context);
-  EXPECT_EQ(std::count(painter.Calls.begin(), painter.Calls.end(), "DrawAnt"), 0);
-  EXPECT_GT(std::count(painter.Calls.begin(), painter.Calls.end(), "DrawCell"), 0) << "cells with ants are drawn";
-}
-
 TEST(Tick, PausedWorldKeepsScentFoodAndAntsButClampsAndEmits) {
   TickRig rig(4);
   World& world = rig.world();
-  for (int i = 0; i < 50; ++i) {
-    world.Running = true;
-    rig.Tick();
-  }
+  world.Running = true;
+  for (int i = 0; i < 50; ++i) rig.Tick();
   world.Running = false;
   Cell& over = world.Cells(2, 2);
   over.Scent = world.Settings.FoodScentMax + 40;
@@ -63,31 +38,27 @@ TEST(Tick, PausedWorldKeepsScentFoodAndAntsButClampsAndEmits) {
   EXPECT_GE(std::abs(world.Cells(first.X, first.Y).Scent), emission);
 }
 
-TEST(Tick, RunningScentAboveTheMaximumIsClampedThenDecays) {
+TEST(Tick, ScentPassClampsDecaysAndClearsWalls) {
   TickRig rig;
   World& world = rig.world();
   world.Running = true;
-  Cell& cell = world.Cells(3, 3);
-  cell.Scent = world.Settings.FoodScentMax + 5;
-  CellUpdate(world, rig.nullPainter);
-  EXPECT_EQ(cell.Scent, world.Settings.FoodScentMax - 1);
-}
-
-TEST(Tick, WallCellEndsThePassUnscented) {
-  TickRig rig;
-  World& world = rig.world();
   ASSERT_TRUE(AddWallAt(world, 5, 5));
   world.Cells(5, 5).Scent = -120;
   world.Cells(5, 5).Signature = Signature(std::string_view("1010101010101010"));
+  world.Cells(3, 3).Scent = world.Settings.FoodScentMax + 5;
   CellUpdate(world, rig.nullPainter);
-  EXPECT_EQ(world.Cells(5, 5).Scent, 0);
+  EXPECT_EQ(world.Cells(3, 3).Scent, world.Settings.FoodScentMax - 1) << "clamped, then one step of decay";
+  EXPECT_EQ(world.Cells(5, 5).Scent, 0) << "a wall cell ends the pass unscented";
   EXPECT_EQ(world.Cells(5, 5).Signature, Signature::Unmarked());
 }
 
 TEST(Tick, ScentColourSpansItsRanges) {
-  EXPECT_EQ(ScentColour(500, 500, 250), Rgb(116, 168, 116));
-  EXPECT_EQ(ScentColour(-250, 500, 250), Rgb(139, 129, 103));
-  EXPECT_EQ(ScentColour(0, 500, 250), Rgb(200, 172, 145));
+  const struct {
+    double scent;
+    double colour;
+  } cases[] = {{500, Rgb(116, 168, 116)},  {100, Rgb(171, 194, 139)}, {0, Rgb(200, 172, 145)},
+               {-50, Rgb(188, 163, 137)}, {-250, Rgb(139, 129, 103)}};
+  for (const auto& c : cases) EXPECT_EQ(ScentColour(c.scent, 500, 250), c.colour) << c.scent;
 }
 
 TEST(Population, LimitMessageOnlyAtExactly2000AndNoNestedTick) {
@@ -102,24 +73,18 @@ TEST(Population, LimitMessageOnlyAtExactly2000AndNoNestedTick) {
   world.TickInProgress = true;
   CheckPopulationLimit(world, rig.messages);
   world.TickInProgress = false;
-  ASSERT_EQ(rig.messages.Shown.size(), 1u);
-  EXPECT_EQ(rig.messages.Shown[0], "Maximum ant population has been reached.");
+  ASSERT_EQ(rig.messages.Shown, std::vector<std::string>{"Maximum ant population has been reached."});
   EXPECT_FALSE(rig.messages.NestedTickStarted);
   EXPECT_FALSE(world.Running);
   rig.messages.Reenter = nullptr;
   CheckPopulationLimit(world, rig.messages);
   EXPECT_TRUE(world.Running) << "the pause button is pressed again";
-}
 
-TEST(Population, LimitReachedInsideATickStopsItsBirths) {
-  TickRig rig;
-  World& world = rig.world();
+  // Reached inside a whole tick: the message stops that tick's births too.
+  rig.messages.Shown.clear();
   rig.messages.Reenter = &rig.context;
-  world.Running = true;
   Nest& nest = world.Nests[0];
   nest.FoodStore = 3 * nest.AntUnit;
-  world.Settings.Population = 2000;
-  world.NestCount = 1;
   const int16_t before = nest.AntCount();
   rig.Tick();
   EXPECT_EQ(rig.messages.Shown.size(), 1u);
@@ -144,7 +109,6 @@ TEST(Population, ThreeBirthsFromThreeAndAHalfUnits) {
   EXPECT_NEAR(nest.FoodStore, 0.5 * nest.AntUnit, 1e-9);
   const Ant& newborn = nest.Ants[nest.AntCount() - 1];
   EXPECT_NEAR(std::hypot(newborn.HeadX - nest.X, newborn.HeadY - nest.Y), newborn.Length / world.Settings.ScaleX, 1e-9);
-
   nest.Ants[0].Energy = 0;
   nest.FoodStore = 5 * nest.AntUnit;
   BreedNests(world, rig.test.random);
@@ -155,17 +119,12 @@ TEST(Encounters, BiteNeverKillsAndNeedsACrowd) {
   TickRig rig;
   World& world = rig.world();
   world.Running = true;
-  world.CursorCellX = 10;
-  world.CursorCellY = 10;
-  ASSERT_TRUE(CreateNest(world, rig.test.random));
-  Nest& home = world.Nests[0];
-  Nest& rival = world.Nests[1];
-  Ant& biter = home.Ants[1];
-  Ant& victim = rival.Ants[1];
+  rig.AddNestAt(10, 10);
+  Ant& biter = world.Nests[0].Ants[1];
+  Ant& victim = world.Nests[1].Ants[1];
   victim.RearX = biter.HeadX - 1;
-  victim.RearY = biter.HeadY;
+  victim.RearY = victim.HeadY = biter.HeadY;
   victim.HeadX = biter.HeadX + 1;
-  victim.HeadY = biter.HeadY;
   victim.Energy = 0.4;
   biter.Load = 0;
   Cell& cell = world.Cells(biter.CellX, biter.CellY);
@@ -184,30 +143,25 @@ TEST(Encounters, BiteNeverKillsAndNeedsACrowd) {
   EXPECT_EQ(victim.Energy, 5) << "a carrying ant does not bite";
 }
 
-TEST(Upkeep, RemovalVisitsTheMovedRecord) {
+TEST(Upkeep, RemovalVisitsTheMovedAntAndTheMovedNest) {
   TickRig rig;
   World& world = rig.world();
   world.Running = true;
   Nest& nest = world.Nests[0];
   const int16_t count = nest.AntCount();
   const double corpse = -nest.AntUnit / 4;
-  nest.Ants[1].Energy = corpse;                 // removed; the last ant moves into slot 1
-  nest.Ants[count - 1].Energy = corpse;          // the moved ant must be removed too
+  nest.Ants[1].Energy = corpse;         // removed; the last ant moves into slot 1
+  nest.Ants[count - 1].Energy = corpse;  // the moved ant must be removed too
   nest.Ants[count - 1].LifeFactor = 0.5;
   const int16_t population = world.Settings.Population;
   AntUpkeep(world);
   EXPECT_EQ(nest.AntCount(), count - 2);
   EXPECT_EQ(world.Settings.Population, population) << "bodies were counted out at death";
   for (const Ant& ant : nest.Ants) EXPECT_GT(ant.Energy, corpse);
-}
 
-TEST(Upkeep, QueenAsLastAntTakesHerNestAndTheMovedNestIsProcessed) {
-  TickRig rig;
-  World& world = rig.world();
-  world.Running = true;
-  world.CursorCellX = 5;
-  world.CursorCellY = 5;
-  ASSERT_TRUE(CreateNest(world, rig.test.random));
+  // A queen that is her nest's last ant takes the nest; the nest moved into
+  // its slot is processed in the same pass.
+  rig.AddNestAt(5, 5);
   Nest& first = world.Nests[0];
   first.Ants.Reset(1);
   first.Ants[0].Energy = -first.AntUnit;

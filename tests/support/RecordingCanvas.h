@@ -68,15 +68,7 @@ class RecordingCanvas : public Canvas {
  private:
   void Record(CanvasOp op, double x1 = 0, double y1 = 0, double x2 = 0, double y2 = 0, double colour = 0,
               std::string_view text = {}) {
-    CanvasCall& call = Calls.emplace_back();
-    call.Op = op;
-    call.X1 = x1;
-    call.Y1 = y1;
-    call.X2 = x2;
-    call.Y2 = y2;
-    call.Colour = colour;
-    call.Text = std::string(text);
-    call.Pen = Pen;
+    Calls.push_back(CanvasCall{op, x1, y1, x2, y2, colour, std::string(text), Pen});
   }
 };
 

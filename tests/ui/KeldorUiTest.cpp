@@ -1,0 +1,459 @@
+// The windows driven as a user drives them, offscreen: the main window's
+// buttons, palette, layout and panels, mouse editing on the terrain, the
+// options dialog, the population-limit message, the splash and About boxes.
+#include <QAction>
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QSlider>
+#include <QTimer>
+#include <QtTest>
+#include <functional>
+
+#include "model/MessageBox.h"
+#include "model/Queries.h"
+#include "model/Random.h"
+#include "model/SystemInfo.h"
+#include "platform/NoRegistry.h"
+#include "ui/PictureBox.h"
+#include "ui/frmAbout.h"
+#include "ui/frmKeldor.h"
+#include "ui/frmOptions.h"
+#include "ui/frmSplash.h"
+
+namespace keldor {
+namespace {
+
+class RecordingMessageBox : public MessageBox {
+ public:
+  void Show(const std::string& text) override {
+    shown.push_back(text);
+    if (whileShown) whileShown();  // the box is "open" while this runs
+  }
+  std::vector<std::string> shown;
+  std::function<void()> whileShown;
+};
+
+// Runs answer on the next modal window once it is open; answer must close it.
+void AnswerNextModal(std::function<void(QWidget*)> answer) {
+  auto poll = std::make_shared<std::function<void()>>();
+  *poll = [answer, poll] {
+    if (QWidget* modal = QApplication::activeModalWidget()) {
+      answer(modal);
+      *poll = nullptr;  // break the cycle
+    } else {
+      QTimer::singleShot(10, *poll);
+    }
+  };
+  QTimer::singleShot(10, *poll);
+}
+
+template <typename T = QWidget>
+T* Child(QObject* parent, const char* name) {
+  T* child = parent->findChild<T*>(name);
+  if (child == nullptr) qFatal("no control named %s", name);
+  return child;
+}
+
+void Click(QObject* parent, const char* name) { QTest::mouseClick(Child<QPushButton>(parent, name), Qt::LeftButton); }
+
+// Sends a mouse event as the window system does (QTest's mouseMove carries no buttons).
+void SendMouse(QWidget* target, QEvent::Type type, QPoint at, Qt::MouseButton button, Qt::MouseButtons held) {
+  QMouseEvent event(type, at, target->mapToGlobal(at), button, held, Qt::NoModifier);
+  QApplication::sendEvent(target, &event);
+}
+
+// Replaces a box's text by typing, then leaves the box (its text is taken over).
+void Type(QWidget* dialog, const char* box, const QString& text) {
+  auto* edit = Child<QLineEdit>(dialog, box);
+  edit->setFocus();
+  edit->selectAll();
+  QTest::keyClicks(edit, text);
+  QTest::keyClick(edit, Qt::Key_Tab);
+}
+
+class NoPrograms : public ProgramStarter {
+ public:
+  bool FileExists(const std::string&) override { return false; }
+  bool Start(const std::string& path) override {
+    started.push_back(path);
+    return true;
+  }
+  std::vector<std::string> started;
+};
+
+}  // namespace
+
+class KeldorUiTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void init() {
+    clock_ = std::make_unique<VirtualClock>(7);
+    window_ = std::make_unique<frmKeldor>(messages_, *clock_);
+    window_->show();
+    QVERIFY(QTest::qWaitForWindowExposed(window_.get()));
+  }
+  void cleanup() {
+    window_.reset();
+    messages_.shown.clear();
+    messages_.whileShown = nullptr;
+  }
+
+  // ---- The main window
+
+  void startsWithoutAWorldAndWithFaintDisabledButtons() {
+    for (const char* name : {"btnStop", "cmdZoomIn", "cmdZoomOut", "btnOdor", "btnAnts"}) {
+      auto* button = Child<QPushButton>(W(), name);
+      QVERIFY(!button->isEnabled());
+      const auto ink = [&](QIcon::Mode mode) {
+        const QImage image = button->icon().pixmap(24, mode).toImage().convertToFormat(QImage::Format_ARGB32);
+        double darkness = 0;
+        for (int y = 0; y < image.height(); ++y) {
+          for (int x = 0; x < image.width(); ++x) darkness += qAlpha(image.pixel(x, y)) * (255 - qGray(image.pixel(x, y)));
+        }
+        return darkness;
+      };
+      QVERIFY2(ink(QIcon::Disabled) < 0.5 * ink(QIcon::Normal), name);
+    }
+    QVERIFY(!window_->TheWorld().HasWorld());
+    QTest::qWait(200);
+    QCOMPARE(window_->TicksRun(), 0);
+  }
+
+  void newLeavesTheWorldPausedAndPlayPauseToggles() {
+    Child<QAction>(W(), "mnuFileNew")->trigger();
+    World& w = window_->TheWorld();
+    QVERIFY(w.HasWorld() && !w.Running);
+    auto* stop = Child<QPushButton>(W(), "btnStop");
+    QVERIFY(stop->isEnabled());
+    QCOMPARE(stop->toolTip(), QString("Play"));
+    const QImage playPicture = stop->icon().pixmap(24).toImage();
+    QTRY_VERIFY(window_->TicksRun() >= 2);  // the timer runs while paused: the views are redrawn
+    Click(W(), "btnStop");
+    QVERIFY(w.Running);
+    QCOMPARE(stop->toolTip(), QString("Pause"));
+    QVERIFY(stop->icon().pixmap(24).toImage() != playPicture);
+    Click(W(), "btnStop");
+    QVERIFY(!w.Running);
+    QCOMPARE(stop->toolTip(), QString("Play"));
+    QCOMPARE(stop->icon().pixmap(24).toImage(), playPicture);
+    Click(W(), "btnStop");
+    Click(W(), "btnStart");  // Start while running builds a new world, paused
+    QVERIFY(!w.Running);
+    QCOMPARE(stop->toolTip(), QString("Play"));
+  }
+
+  void odorAndAntsToggles() {
+    Click(W(), "btnStart");
+    World& w = window_->TheWorld();
+    QCOMPARE(Child<QPushButton>(W(), "btnOdor")->toolTip(), QString("Odor Traces"));
+    const auto press = [&](const char* button, const int16_t& shown, int expected, const char* tip) {
+      Click(W(), button);
+      QCOMPARE(int(shown), expected);
+      QCOMPARE(Child<QPushButton>(W(), button)->toolTip(), QString(tip));
+    };
+    press("btnOdor", w.ShowOdor, 1, "Hide Odor Traces");
+    press("btnOdor", w.ShowOdor, 0, "Show Odor Traces");
+    press("btnAnts", w.ShowAnts, 0, "Show ants");
+    press("btnAnts", w.ShowAnts, 1, "Hide ants");
+  }
+
+  void paletteExpandsAndCollapses() {
+    Click(W(), "btnStart");
+    auto* pick = Child<QPushButton>(W(), "btnPickAction");
+    auto* palette = Child<QWidget>(W(), "fraActions");
+    const int collapsed = palette->height();
+    QCOMPARE(pick->text(), QString("v"));
+    Click(W(), "btnPickAction");
+    QCOMPARE(pick->text(), QString("^"));
+    for (const char* name : {"btnAction_1", "btnAction_2", "btnAction_3", "btnAction_4"}) {
+      QVERIFY(palette->rect().contains(Child<QWidget>(palette, name)->geometry()));
+    }
+    // Choosing a tool moves it to the top slot and closes the palette.
+    Click(palette, "btnAction_2");
+    QCOMPARE(pick->text(), QString("v"));
+    QCOMPARE(palette->height(), collapsed);
+    QCOMPARE(window_->TheWorld().Settings.CurrentTool, int16_t{2});
+    QVERIFY(Child<QWidget>(palette, "btnAction_2")->y() < collapsed);
+    QCOMPARE(Child<QWidget>(W(), "picTerreno")->cursor().shape(), Qt::CrossCursor);
+    Click(W(), "btnPickAction");
+    Click(W(), "cmdZoomIn");  // another command of the button bar closes it
+    QCOMPARE(palette->height(), collapsed);
+  }
+
+  void layoutFillsTheClientAreaAndSnapsBack() {
+    QWidget* client = window_->centralWidget();
+    const auto checkEdges = [&] {  // no empty band below or right of the views
+      const int bottomGap = client->height() - Child<QWidget>(W(), "HScroll1")->geometry().bottom() - 1;
+      const int rightGap = client->width() - Child<QWidget>(W(), "fraInfo")->geometry().right() - 1;
+      QVERIFY2(bottomGap >= 0 && bottomGap <= 3, qPrintable(QString::number(bottomGap)));
+      QVERIFY2(rightGap >= 0 && rightGap <= 5, qPrintable(QString::number(rightGap)));
+    };
+    checkEdges();
+    window_->resize(200, 150);
+    const double perPixel = window_->Scale().TwipsPerPixel();
+    QTRY_VERIFY(client->width() * perPixel + ClassicFrameWidth >= MinWindowWidth - perPixel);
+    QTRY_VERIFY(client->height() * perPixel + ClassicFrameHeight >= MinWindowHeight - perPixel);
+    QCOMPARE(window_->Layout().Width, MinWindowWidth);
+    checkEdges();
+  }
+
+  void hidingThePanelKeepsTheCentreAndScrollBarsFollowTheModel() {
+    Click(W(), "btnStart");
+    World& w = window_->TheWorld();
+    Click(W(), "cmdZoomIn");
+    Click(W(), "cmdZoomIn");
+    auto* map = Child<PictureBox>(W(), "picMapa");
+    const int16_t before = w.View.HScroll1.Value;
+    QTest::mouseMove(map, QPoint(5, 5));
+    QCOMPARE(w.View.HScroll1.Value, before);  // pointing needs a held button
+    QTest::mouseClick(map, Qt::LeftButton, {}, QPoint(map->width() * 2 / 3, map->height() / 2));
+    QVERIFY(w.View.HScroll1.Value != before);
+    const float cx = w.ViewCentreX, cy = w.ViewCentreY;
+    auto* view = Child<QWidget>(W(), "picTerreno");
+    const int width = view->width();
+    Click(W(), "btnQuick_2");
+    QVERIFY(!Child<QWidget>(W(), "fraInfo")->isVisible());
+    QVERIFY(!Child<QAction>(W(), "mnuInfo")->isChecked());
+    QVERIFY(view->width() > width);
+    QVERIFY(std::abs(w.ViewCentreX - cx) <= 1.0f / 12);
+    QVERIFY(std::abs(w.ViewCentreY - cy) <= 1.0f / 12);
+    auto* bar = Child<QScrollBar>(W(), "HScroll1");
+    QCOMPARE(bar->value(), int(w.View.HScroll1.Value));
+    const double left = w.View.Terrain.Left;
+    bar->triggerAction(QAbstractSlider::SliderPageStepAdd);
+    QCOMPARE(int(w.View.HScroll1.Value), bar->value());
+    QVERIFY(w.View.Terrain.Left > left);
+    Child<QAction>(W(), "mnuInfo")->trigger();
+    QVERIFY(Child<QWidget>(W(), "fraInfo")->isVisible());
+    QCOMPARE(view->width(), width);
+  }
+
+  void populationLimitIsReportedWithoutTickingInside() {
+    window_->TheWorld().Settings.AntsPerNest = 2000;  // the first nest reaches the limit at once
+    Click(W(), "btnStart");
+    Click(W(), "btnStop");
+    int ticksDuringMessage = -1;
+    messages_.whileShown = [&] {
+      const int before = window_->TicksRun();
+      QTest::qWait(400);  // Timer1 fires several times while the message is open
+      ticksDuringMessage = window_->TicksRun() - before;
+    };
+    QTRY_VERIFY(!messages_.shown.empty());
+    QCOMPARE(messages_.shown.front(), std::string("Maximum ant population has been reached."));
+    QCOMPARE(ticksDuringMessage, 0);
+    // Closing the message presses Play/Pause: every message so far toggled it once.
+    const bool running = messages_.shown.size() % 2 == 0;
+    QCOMPARE(window_->TheWorld().Running, running);
+    QCOMPARE(Child<QPushButton>(W(), "btnStop")->toolTip(), QString(running ? "Pause" : "Play"));
+  }
+
+  // ---- Editing on the terrain view
+
+  void leftDragPaintsWallsAndRightDragErasesThem() {
+    World& w = StartWithTool(2);
+    Drag(PixelOfCell(3, 4), PixelOfCell(7, 4), Qt::LeftButton);
+    for (int x = 3; x <= 7; ++x) QVERIFY2(CellHasObjectType(w, "PLASTER_BRICK", x, 4), qPrintable(QString::number(x)));
+    QCOMPARE(int(w.WallCount()), 5);
+    Drag(PixelOfCell(4, 4), PixelOfCell(6, 4), Qt::RightButton);
+    QCOMPARE(int(w.WallCount()), 2);
+    QVERIFY(CellHasObjectType(w, "PLASTER_BRICK", 3, 4) && CellHasObjectType(w, "PLASTER_BRICK", 7, 4));
+  }
+
+  void nestPressTogglesANest() {
+    World& w = StartWithTool(4);
+    for (int nests : {2, 1}) {
+      QTest::mouseClick(View(), Qt::LeftButton, {}, PixelOfCell(5, 6));
+      QCOMPARE(int(w.NestCount), nests);
+      QCOMPARE(IsNestCell(w, 5, 6), nests == 2);
+    }
+  }
+
+  void heldFoodToolGrowsAPileWhilePaused() {
+    World& w = StartWithTool(1);
+    QVERIFY(!w.Running);
+    int x = 4;
+    while (w.Cells(x, 9).Food != 0) ++x;
+    const QPoint cell = PixelOfCell(x, 9);
+    SendMouse(View(), QEvent::MouseMove, cell, Qt::NoButton, Qt::NoButton);
+    SendMouse(View(), QEvent::MouseButtonPress, cell, Qt::LeftButton, Qt::LeftButton);
+    const int ticks = window_->TicksRun();
+    QTRY_VERIFY(window_->TicksRun() >= ticks + 4);
+    SendMouse(View(), QEvent::MouseButtonRelease, cell, Qt::LeftButton, Qt::NoButton);
+    QVERIFY(w.Cells(x, 9).Food >= 2 * w.Settings.SpreadFoodAmount);
+    QVERIFY(w.Cells(x, 9).Food <= w.Settings.CellFoodCapacity());
+  }
+
+  // ---- The options dialog
+
+  void typedTextsAreCorrectedAndOkTakesThemOver() {
+    QStringList seen;
+    OpenOptions([&](QWidget* dialog) {
+      const auto typeAndRead = [&](const char* box, const QString& text, const char* read) {
+        Type(dialog, box, text);
+        seen << Child<QLineEdit>(dialog, read)->text();
+      };
+      typeAndRead("txtNumAnts", "-7.9", "txtNumAnts");
+      typeAndRead("txtNumAnts", "many", "txtNumAnts");
+      typeAndRead("txtAntsRed", "300", "txtAntsRed");
+      typeAndRead("txtAntSize", "20", "txtAntSize");
+      typeAndRead("txtGridDimX", "25", "txtGridDimY");
+      typeAndRead("txtGridDimX", "21", "txtGridDimX");
+      Child<QSlider>(dialog, "sliLifeSpan")->setValue(40);
+      QTest::mouseClick(Child<QPushButton>(dialog, "btnAcept"), Qt::LeftButton);
+    });
+    QCOMPARE(seen, QStringList({"8", "30", "255", "5.9", "25", "21"}));
+    World& w = window_->TheWorld();
+    QCOMPARE(int(w.Settings.AntsPerNest), 30);
+    QCOMPARE(int(w.Settings.AntRed), 255);
+    QCOMPARE(w.Settings.AntSizeMm, 5.9);
+    QCOMPARE(int(w.Settings.LifeSpan), 40);
+    QCOMPARE(int(w.Settings.GridX), 30);  // the grid changes with the next world
+    Click(W(), "btnStart");
+    QCOMPARE(int(w.Settings.GridX), 21);
+    QCOMPARE(int(w.Nests[0].LifeSpan), 40);
+    OpenOptions([&](QWidget* dialog) {
+      Type(dialog, "txtGridDimX", "1000");
+      QCOMPARE(Child<QLineEdit>(dialog, "txtGridDimX")->text(), QString("181"));
+    });
+  }
+
+  void cancelKeepsWhatWasTakenOverOnChange() {
+    OpenOptions([&](QWidget* dialog) {
+      Type(dialog, "txtNumAnts", "12");
+      Type(dialog, "txtAntsBlue", "200");
+      Child<QSlider>(dialog, "sliLifeSpan")->setValue(10);
+      Child<QSlider>(dialog, "sliFoodRate")->setValue(60);
+      Child<QSlider>(dialog, "sliFoodTrace")->setValue(123);
+      auto* size = Child<QLineEdit>(dialog, "txtAntSize");  // taken over by leaving it for Cancel
+      size->setFocus();
+      size->selectAll();
+      QTest::keyClicks(size, "2.5");
+      QTest::mouseClick(Child<QPushButton>(dialog, "btnCancel"), Qt::LeftButton);
+    });
+    const WorldSettings& s = window_->TheWorld().Settings;
+    QCOMPARE(int(s.AntsPerNest), 12);
+    QCOMPARE(s.AntSizeMm, 2.5);
+    QCOMPARE(s.AntColour, Rgb(150, 100, 200));
+    QCOMPARE(int(s.FoodTraceSetting), 123);
+    QCOMPARE(int(s.AntBlue), 70);
+    QCOMPARE(int(s.LifeSpan), 100);
+    QCOMPARE(int(s.FoodRate), 2);
+  }
+
+  void theTickReadsTheNestSliderWhileOpen() {
+    World& w = window_->TheWorld();
+    int valueWhileShown = 0;
+    OpenOptions([&](QWidget* dialog) {
+      Child<QSlider>(dialog, "sliNestTrace")->setValue(77);
+      valueWhileShown = w.OptionsOpen ? w.NestTraceValue() : -1;
+    });
+    QCOMPARE(valueWhileShown, 77);
+    QVERIFY(!w.OptionsOpen);
+  }
+
+  void destroyingTheDialogWhileABoxHasTheFocus() {
+    auto* dialog = new frmOptions(window_->TheWorld(), W());
+    dialog->show();
+    dialog->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(dialog));
+    auto* box = Child<QLineEdit>(dialog, "txtNumAnts");
+    box->setFocus();
+    QTest::keyClicks(box, "5");
+    QTRY_VERIFY(box->hasFocus());
+    delete dialog;
+    QVERIFY(!window_->TheWorld().OptionsOpen);
+  }
+
+  void closingTheMainWindowClosesTheDialog() {
+    AnswerNextModal([&](QWidget*) { window_->close(); });
+    Child<QAction>(W(), "mnuOptions")->trigger();
+    QVERIFY(QApplication::activeModalWidget() == nullptr);
+    QVERIFY(!window_->isVisible());
+    QVERIFY(!window_->TheWorld().OptionsOpen);
+  }
+
+  // ---- Splash and About
+
+  void splashHandsOverAtTheFirstKeyOrClick() {
+    for (bool key : {true, false}) {
+      int handedOver = 0;
+      QPointer<frmSplash> splash = new frmSplash([&] { ++handedOver; });
+      splash->show();
+      QVERIFY(QTest::qWaitForWindowExposed(splash));
+      QCOMPARE(Child<QLabel>(splash, "Label2")->text(), QString("https://keldor.example.org"));
+      if (key) QTest::keyClick(splash, Qt::Key_Space);
+      else QTest::mouseClick(splash, Qt::LeftButton);
+      QCOMPARE(handedOver, 1);
+      QTRY_VERIFY(splash.isNull());  // closed and deleted
+    }
+  }
+
+  void aboutShowsTheUnavailableMessageWithoutARegistry() {
+    NoRegistry registry;
+    NoPrograms programs;
+    RecordingMessageBox messages;
+    frmAbout about(registry, programs, messages);
+    QCOMPARE(about.windowTitle(), QString("About Keldor"));
+    about.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&about));
+    Click(&about, "cmdSysInfo");
+    QCOMPARE(messages.shown, std::vector<std::string>{"System Information Is Unavailable At This Time"});
+    QVERIFY(programs.started.empty());
+    Click(&about, "cmdOK");
+    QVERIFY(!about.isVisible());
+  }
+
+ private:
+  QWidget* W() const { return window_.get(); }
+  PictureBox* View() const { return Child<PictureBox>(window_.get(), "picTerreno"); }
+
+  World& StartWithTool(int index) {
+    Click(W(), "btnStart");
+    Click(W(), "btnPickAction");
+    Click(W(), qPrintable(QString("btnAction_%1").arg(index)));
+    return window_->TheWorld();
+  }
+
+  // The pixel at the middle of cell (x, y) of the terrain view.
+  QPoint PixelOfCell(int x, int y) const {
+    const World& w = window_->TheWorld();
+    const double perPixel = window_->Scale().TwipsPerPixel();
+    return QPoint(int(((x - 0.5) * w.Settings.CellSize * w.ZoomX - w.View.Terrain.Left) / perPixel),
+                  int(((y - 0.5) * w.Settings.CellSize * w.ZoomY - w.View.Terrain.Top) / perPixel));
+  }
+
+  void Drag(QPoint from, QPoint to, Qt::MouseButton button) {
+    SendMouse(View(), QEvent::MouseMove, from, Qt::NoButton, Qt::NoButton);
+    SendMouse(View(), QEvent::MouseButtonPress, from, button, button);
+    for (int i = 1; i <= 20; ++i) SendMouse(View(), QEvent::MouseMove, from + (to - from) * i / 20, Qt::NoButton, button);
+    SendMouse(View(), QEvent::MouseButtonRelease, to, button, Qt::NoButton);
+  }
+
+  // Opens the options dialog from the menu and runs answer inside it.
+  void OpenOptions(std::function<void(QWidget*)> answer) {
+    bool answered = false;
+    AnswerNextModal([&](QWidget* dialog) {
+      QVERIFY(qobject_cast<frmOptions*>(dialog) != nullptr);
+      dialog->activateWindow();
+      QVERIFY(QTest::qWaitForWindowActive(dialog));
+      answer(dialog);
+      answered = true;
+      if (dialog->isVisible()) dialog->close();
+    });
+    Child<QAction>(W(), "mnuOptions")->trigger();
+    QVERIFY(answered);
+  }
+
+  RecordingMessageBox messages_;
+  std::unique_ptr<VirtualClock> clock_;
+  std::unique_ptr<frmKeldor> window_;
+};
+
+}  // namespace keldor
+
+QTEST_MAIN(keldor::KeldorUiTest)
+#include "KeldorUiTest.moc"
