@@ -150,15 +150,18 @@ void QtCanvas::Circle(double x, double y, double radius, double colour) {
   }
   const DiscKey key{ToPixelIndex(r * 4), LineWidthPixels(), Pen.Fill == FillStyle::Solid,
                     ToQRgb(Pen.FillColor), outline};
-  discs_.Get(key).StampOnto(buffer_, ToPixelIndex(cx - 0.5), ToPixelIndex(cy - 0.5));
+  // The centre snaps to a pixel as a box corner does, so a disc sits on the
+  // grid lines of the cell box drawn around it.
+  discs_.Get(key).StampOnto(buffer_, ToPixelIndex(cx), ToPixelIndex(cy));
 }
 
 void QtCanvas::PaintLargeCircle(double cx, double cy, double radius, QRgb outline) {
+  // Without anti-aliasing, like the cached discs and the boxes; pixel i of a
+  // box covers coordinate i, which QPainter places at the pixel's centre.
   QPainter painter(&image_);
-  painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(QPen(QColor(outline), LineWidthPixels()));
   painter.setBrush(Pen.Fill == FillStyle::Solid ? QBrush(QColor(ToQRgb(Pen.FillColor))) : Qt::NoBrush);
-  painter.drawEllipse(QPointF(cx, cy), radius, radius);
+  painter.drawEllipse(QPointF(cx + 0.5, cy + 0.5), radius, radius);
   painter.end();
   TakeBuffer();
 }

@@ -2,6 +2,8 @@
 #include <gtest/gtest.h>
 
 #include <QGuiApplication>
+#include <cmath>
+#include <utility>
 
 #include "model/Numeric.h"
 #include "platform/FrameImage.h"
@@ -83,6 +85,30 @@ TEST(QtCanvasTest, CircleCentreAndRadiusFollowTheScale) {
   canvas.Circle(50, 50, 20, Red);
   EXPECT_EQ(Pixel(canvas, 50, 50), Background) << "a transparent circle is only its outline";
   EXPECT_NE(Pixel(canvas, 30, 50), Background);
+}
+
+TEST(QtCanvasTest, CircleEdgesRoundLikeTheBoxAroundThem) {
+  // A disc inscribed in a box shares the box's outer columns: a nest on its
+  // cell, a pile on its cell. Painted large discs match exactly; cached small
+  // ones snap their centre to a pixel, which can cost one pixel on a side.
+  struct Case {
+    double Left, Right;
+    bool Exact;
+  };
+  for (const Case& c : {Case{179.56, 224.0, true}, Case{10.3, 30.9, false}, Case{20.5, 41.5, true},
+                        Case{12.4, 150.8, true}, Case{30.7, 170.1, true}}) {
+    const double centre = (c.Left + c.Right) / 2, radius = (c.Right - c.Left) / 2;
+    QtCanvas box(240, 240), disc(240, 240);
+    for (QtCanvas* canvas : {&box, &disc}) canvas->SetScale({0, 0, 240, 240});
+    box.Box(c.Left, c.Left, c.Right, c.Right, Red);
+    disc.Circle(centre, centre, radius, Red);
+    const int row = static_cast<int>(std::floor(centre + 0.5));
+    const auto [discLeft, discRight] = InkedSpan(disc, row);
+    const auto [boxLeft, boxRight] = InkedSpan(box, row);
+    const int slack = c.Exact ? 0 : 1;
+    EXPECT_NEAR(discLeft, boxLeft, slack) << c.Left << ".." << c.Right;
+    EXPECT_NEAR(discRight, boxRight, slack) << c.Left << ".." << c.Right;
+  }
 }
 
 TEST(QtCanvasTest, LinesOffImageShapesAndCallOrder) {
