@@ -31,6 +31,9 @@ struct ScrollBar {
   int16_t LargeChange = 100;
 };
 
+// Twips per logical pixel on a 96 dpi screen.
+inline constexpr double TwipsPerPixel = 15;
+
 // Design sizes in twips.
 inline constexpr double MapBoxSize = 2000;  // the mini-map box, outer and inner
 inline constexpr double TerrainDesignWidth = 6720;

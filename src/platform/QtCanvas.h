@@ -13,13 +13,13 @@
 #include <QRgb>
 #include <cstdint>
 
+#include "model/Viewport.h"
 #include "platform/DiscSprites.h"
 #include "platform/TextSprites.h"
 #include "render/Canvas.h"
 
 namespace keldor {
 
-inline constexpr double TwipsPerPixel = 15;
 inline constexpr double TwipsPerPoint = 20;
 
 class QtCanvas : public Canvas {

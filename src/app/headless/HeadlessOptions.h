@@ -12,15 +12,15 @@
 #include <QString>
 #include <QStringList>
 
+#include "model/Viewport.h"
+
 namespace keldor::headless {
 
 // Design size of the terrain view, in pixels.
-inline constexpr int DesignViewWidth = 448;
-inline constexpr int DesignViewHeight = 403;
-// Twips per pixel: the terrain view's units are twips.
-inline constexpr int TwipsPerPixel = 15;
+inline constexpr int DesignViewWidth = static_cast<int>(TerrainDesignWidth / TwipsPerPixel);
+inline constexpr int DesignViewHeight = static_cast<int>(TerrainDesignHeight / TwipsPerPixel);
 // The widest view whose size in twips still fits a 16-bit scroll range.
-inline constexpr int MaxViewPixels = 32767 / TwipsPerPixel;
+inline constexpr int MaxViewPixels = static_cast<int>(32767 / TwipsPerPixel);
 inline constexpr int MinZoom = 2;
 inline constexpr int MaxZoom = 100;
 
