@@ -14,6 +14,7 @@ frmSplash::frmSplash(std::function<void()> showMain, QWidget* parent)
   setWindowTitle(ApplicationTitle);
   setAttribute(Qt::WA_DeleteOnClose);
   setFixedSize(420, 260);
+  setFocusPolicy(Qt::StrongFocus);
   auto* label1 = new QLabel(AuthorshipText, this);
   label1->setObjectName("Label1");
   label1->setGeometry(20, 200, 380, 22);

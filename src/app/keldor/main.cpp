@@ -23,5 +23,8 @@ int main(int argc, char* argv[]) {
     main->show();
   });
   splash->show();
+  // Desktops often leave a splash window without the keyboard; ask for it so
+  // that the first key press hands over.
+  splash->activateWindow();
   return app.exec();
 }
