@@ -21,7 +21,7 @@ void Form_Load(World& world) {
   world.ZoomY = 10;
   if (s.GridX == 0) s.GridX = 30;
   s.CellSize = world.View.Map.Width / s.GridX;
-  s.SpreadFoodAmount = Pi * (s.CellSize / 4) * (s.CellSize / 4) * s.ScaleX;
+  s.SpreadFoodAmount = Pi * ((s.CellSize / 4) * (s.CellSize / 4)) * s.ScaleX;
   LoadDefaults(world);
   SetScrollRanges(world);
   CentreScrollBars(world);

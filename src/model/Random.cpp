@@ -43,6 +43,9 @@ void RandomSource::Seed(double secondsSinceMidnight) {
   for (auto& word : state_) word = SplitMix64(bits);
 }
 
-void RandomSource::ReseedFromClock() { Seed(clock_.SecondsSinceMidnight()); }
+void RandomSource::ReseedFromClock() {
+  if (script_ != nullptr) script_->Reseeded();
+  Seed(clock_.SecondsSinceMidnight());
+}
 
 }  // namespace keldor

@@ -31,15 +31,30 @@ class VirtualClock : public Clock {
   double now_;
 };
 
+// Takes the place of the generator: hands out chosen draws and hears of every
+// reseed, so that a test can check a routine draw by draw.
+class DrawScript {
+ public:
+  virtual ~DrawScript() = default;
+  virtual double NextDraw() = 0;
+  virtual void Reseeded() = 0;
+};
+
 // Uniform draws in [0, 1) from xoshiro256**, seeded through splitmix64.
 class RandomSource {
  public:
   explicit RandomSource(Clock& clock);
 
   // Rnd: the next uniform draw in [0, 1). Inline: every ant step draws.
-  double Rnd() { return static_cast<double>(Next() >> 11) * 0x1.0p-53; }
+  double Rnd() {
+    if (script_ != nullptr) [[unlikely]]
+      return script_->NextDraw();
+    return static_cast<double>(Next() >> 11) * 0x1.0p-53;
+  }
   // Restart the generator from the clock's current time of day.
   void ReseedFromClock();
+  // Draws come from the script from now on; nullptr returns to the generator.
+  void UseScript(DrawScript* script) { script_ = script; }
   // Restart the generator from a given time of day (same time, same sequence).
   void Seed(double secondsSinceMidnight);
 
@@ -62,6 +77,7 @@ class RandomSource {
   }
 
   Clock& clock_;
+  DrawScript* script_ = nullptr;
   uint64_t state_[4];
 };
 

@@ -75,7 +75,7 @@ void PlaceAnt(const Nest& n, Ant& a, int index, const WorldSettings& s, RandomSo
     a.RearY = n.Y;
     const double r1 = random.Rnd(), r2 = random.Rnd(), r3 = random.Rnd();
     const double reach = a.Length / s.ScaleX;
-    a.HeadX = a.RearX + SignOfDraw(r1) * r2 * reach;
+    a.HeadX = a.RearX + SignOfDraw(r1) * r2 * a.Length / s.ScaleX;
     a.HeadY = a.RearY + SignOfDraw(r3) * std::sqrt(reach * reach - (a.HeadX - a.RearX) * (a.HeadX - a.RearX));
   } else {
     // A worker: head on the nest centre, rear on a circle around it.
@@ -84,7 +84,7 @@ void PlaceAnt(const Nest& n, Ant& a, int index, const WorldSettings& s, RandomSo
     a.HeadY = n.Y;
     const double r1 = random.Rnd(), r2 = random.Rnd(), r3 = random.Rnd();
     const double reach = n.AntLength / s.ScaleX;
-    a.RearX = a.HeadX + SignOfDraw(r1) * r2 * reach;
+    a.RearX = a.HeadX + SignOfDraw(r1) * r2 * n.AntLength / s.ScaleX;
     a.RearY = a.HeadY + SignOfDraw(r3) * std::sqrt(reach * reach - (a.RearX - a.HeadX) * (a.RearX - a.HeadX));
   }
   a.CellX = n.CellX;
@@ -94,7 +94,7 @@ void PlaceAnt(const Nest& n, Ant& a, int index, const WorldSettings& s, RandomSo
   a.Colour = n.Colour;
   a.LifeFactor = n.LifeSpan / 100.0;
   const double r4 = random.Rnd();
-  a.Energy = Int(Pi * a.Length * a.Length * (0.9 + 0.1 * r4) * a.LifeFactor);
+  a.Energy = Int(Pi * (a.Length * a.Length) * (0.9 + 0.1 * r4) * a.LifeFactor);
 }
 
 }  // namespace
@@ -158,7 +158,7 @@ bool CreateNest(World& world, RandomSource& random) {
   n.AntLength = s.AntSizeMm * 56.7;
   n.Colour = s.AntColour;
   n.AntBodyArea = world.AntBodyArea;
-  n.AntUnit = Pi * (n.AntLength / 4) * (n.AntLength / 4);
+  n.AntUnit = Pi * ((n.AntLength / 4) * (n.AntLength / 4));
   n.FoodStore = 0;
   n.Signature = keldor::Signature(MakeSignature(random, Signature::Capacity));
   n.LifeSpan = s.LifeSpan;

@@ -34,7 +34,7 @@ struct WorldSettings {
   // The most food one cell holds: a disc filling the cell, in body units squared.
   double CellFoodCapacity() const {
     const double r = CellSize / 2 * ScaleX;
-    return Pi * r * r;
+    return Pi * (r * r);
   }
 };
 

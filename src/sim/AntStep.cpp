@@ -13,10 +13,17 @@
 namespace keldor {
 namespace {
 
-// A turn of up to maxDegrees either way, from two fresh draws.
+// A turn of up to maxDegrees either way, from two fresh draws: sign, then size.
 double RandomTurn(RandomSource& random, double maxDegrees) {
   const double sign = SignOfDraw(random.Rnd());
-  return sign * random.Rnd() * maxDegrees * (Pi / 180);
+  return sign * random.Rnd() * maxDegrees * Pi / 180;
+}
+
+// The queen's turn of up to 60 degrees, scaled by the radian factor taken
+// first: it rounds differently from RandomTurn in the last bit.
+double QueenTurn(RandomSource& random) {
+  const double sign = SignOfDraw(random.Rnd());
+  return sign * random.Rnd() * 60 * (Pi / 180);
 }
 
 bool IsBrick(const World& world, int x, int y) { return CellHasObjectType(world.Cells(x, y), PlasterBrickType); }
@@ -117,7 +124,7 @@ void StepQueen(World& world, RandomSource& random, int nestIndex) {
   const int cy = CellOfCoordinate(queen.RearY, cellSize);
   queen.CellX = static_cast<int16_t>(cx);
   queen.CellY = static_cast<int16_t>(cy);
-  queen.Angle = IsBrick(world, cx, cy) ? 0 : RandomTurn(random, 60);
+  queen.Angle = IsBrick(world, cx, cy) ? 0 : QueenTurn(random);
   Turn(world, queen, nest.X, nest.Y);
   Cell& cell = world.Cells(cx, cy);
   cell.Scent = -world.Settings.NestScentMax;
@@ -143,11 +150,10 @@ void DeliverAndFeed(World& world, Nest& nest, Ant& ant, Cell& cell) {
   nest.FoodStore -= eat;
 }
 
-void StepWorker(World& world, RandomSource& random, int nestIndex, int antIndex) {
+void StepWorker(World& world, RandomSource& random, int nestIndex, int antIndex, double stepDivisor) {
   Nest& nest = world.Nests[static_cast<size_t>(nestIndex)];
   Ant& ant = nest.Ants[antIndex];
   const double cellSize = world.Settings.CellSize;
-  const double stepDivisor = Int(2 * random.Rnd()) + 2;
   const Ant saved = ant;
   const int cx = CellOfCoordinate(ant.HeadX, cellSize);
   const int cy = CellOfCoordinate(ant.HeadY, cellSize);
@@ -283,10 +289,12 @@ void LayScentTrail(World& world, RandomSource& random, int nestIndex, int antInd
 void StepAnt(World& world, RandomSource& random, int nestIndex, int antIndex) {
   if (!world.Running) return;
   if (!(world.Nests[static_cast<size_t>(nestIndex)].Ants[antIndex].Energy > 0)) return;
+  // Every ant draws its step divisor, the queen too, though she never walks.
+  const double stepDivisor = Int(2 * random.Rnd()) + 2;
   if (antIndex == 0) {
     StepQueen(world, random, nestIndex);
   } else {
-    StepWorker(world, random, nestIndex, antIndex);
+    StepWorker(world, random, nestIndex, antIndex, stepDivisor);
   }
 }
 

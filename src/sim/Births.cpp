@@ -18,10 +18,10 @@ void BearAnt(World& world, RandomSource& random, Nest& nest, Ant& ant) {
   ant.RearX = nest.X;
   ant.RearY = nest.Y;
   ant.Length = nest.AntLength;
-  ant.Energy = Int(Pi * ant.Length * ant.Length * (0.9 + 0.1 * random.Rnd()));
+  ant.Energy = Int(Pi * (ant.Length * ant.Length) * (0.9 + 0.1 * random.Rnd()));
   const double reach = ant.Length / s.ScaleX;
   const double signX = SignOfDraw(random.Rnd());
-  ant.HeadX = ant.RearX + signX * random.Rnd() * reach;
+  ant.HeadX = ant.RearX + signX * random.Rnd() * ant.Length / s.ScaleX;
   const double signY = SignOfDraw(random.Rnd());
   const double dx = ant.HeadX - ant.RearX;
   ant.HeadY = ant.RearY + signY * std::sqrt(reach * reach - dx * dx);

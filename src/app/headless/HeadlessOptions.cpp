@@ -6,6 +6,7 @@
 #include <QCommandLineParser>
 
 #include "model/Numeric.h"
+#include "model/OptionsForm.h"
 #include "model/WorldCreation.h"
 
 namespace keldor::headless {
@@ -22,6 +23,7 @@ QList<QCommandLineOption> DefineOptions() {
       {"ants-per-nest", "Ants of every nest created, queen included (0..32767, default 30).", "N"},
       {"ant-size", "Ant length in millimetres (above 0, at most the nest radius; default 3).", "MM"},
       {"life-span", "Life span of new nests' ants (1..100, default 100).", "N"},
+      {"food-trace", "The options dialog's \"Food Scent\" slider, which caps a bite's scent mark (0..500, default 0: never moved).", "N"},
       {"nest", "Create a nest on cell X,Y. May repeat; applied in order.", "X,Y"},
       {"wall", "Put a plaster brick on cell X,Y unless one stands there. May repeat.", "X,Y"},
       {"food", "Lay a food pile on cell X,Y unless it holds food. May repeat.", "X,Y"},
@@ -146,6 +148,9 @@ void ReadWorldOptions(const QCommandLineParser& parser, ValueReader& read, World
   }
   if (parser.isSet("ant-size")) world.AntSizeMm = read.PositiveNumber("ant-size", parser.value("ant-size"));
   if (parser.isSet("life-span")) world.LifeSpan = AsInt(read.Integer("life-span", parser.value("life-span"), 1, 100));
+  if (parser.isSet("food-trace")) {
+    world.FoodTrace = AsInt(read.Integer("food-trace", parser.value("food-trace"), 0, TraceRange.Max));
+  }
 }
 
 void ReadViewOptions(const QCommandLineParser& parser, ValueReader& read, ViewOptions& view) {

@@ -41,6 +41,7 @@ struct WorldOptions {
   std::optional<int> AntsPerNest;
   std::optional<double> AntSizeMm;
   std::optional<int> LifeSpan;
+  std::optional<int> FoodTrace;
 };
 
 struct ViewOptions {

@@ -36,6 +36,7 @@ std::optional<std::string> ApplySettings(World& world, const WorldOptions& optio
   if (options.FoodRate) s.FoodRate = static_cast<int16_t>(*options.FoodRate);
   if (options.AntsPerNest) s.AntsPerNest = static_cast<int16_t>(*options.AntsPerNest);
   if (options.LifeSpan) s.LifeSpan = static_cast<int16_t>(*options.LifeSpan);
+  if (options.FoodTrace) s.FoodTraceSetting = static_cast<int16_t>(*options.FoodTrace);
   inputs.GridWidthText = std::to_string(grid);
   inputs.GridHeightText = inputs.GridWidthText;
   inputs.AntSizeText = CStr(s.AntSizeMm);
