@@ -30,6 +30,9 @@ BENCHMARK(BM_CrowdedFourNests)->Iterations(300)->Unit(benchmark::kMicrosecond);
 void BM_LargeWorld(benchmark::State& state) { RunTicks(state, *bench::LargeWorld()); }
 BENCHMARK(BM_LargeWorld)->Iterations(300)->Unit(benchmark::kMicrosecond);
 
+void BM_LargestWorld(benchmark::State& state) { RunTicks(state, *bench::LargestWorld()); }
+BENCHMARK(BM_LargestWorld)->Iterations(100)->Unit(benchmark::kMillisecond);
+
 // Ants and food both double from one case to the next.
 void BM_Scaling(benchmark::State& state) { RunTicks(state, *bench::ScalingWorld(static_cast<int>(state.range(0)))); }
 BENCHMARK(BM_Scaling)->RangeMultiplier(2)->Range(1, 8)->Iterations(300)->Unit(benchmark::kMicrosecond);

@@ -1,8 +1,10 @@
 #include "support/BenchWorlds.h"
 
+#include <cmath>
 #include <string>
 
 #include "model/Commands.h"
+#include "model/Numeric.h"
 #include "model/WorldCreation.h"
 #include "sim/Editing.h"
 
@@ -56,6 +58,17 @@ std::unique_ptr<BenchWorld> LargeWorld() {
   for (int k = 0; k < 9; ++k) bench->AddNest(10 + 9 * k, 10 + (k % 3) * 35);
   for (int k = 0; k < 200; ++k) {
     AddWallAt(bench->world, static_cast<int16_t>(5 + k % 90), static_cast<int16_t>(25 + (k / 90) * 25));
+  }
+  return bench;
+}
+
+std::unique_ptr<BenchWorld> LargestWorld() {
+  auto bench = std::make_unique<BenchWorld>(181, -1, 3000);
+  // New's nest at the centre, nine more on a ring around it.
+  for (int k = 0; k < 9; ++k) {
+    const int x = 91 + static_cast<int>(60 * std::cos(k * 2 * Pi / 9));
+    const int y = 91 + static_cast<int>(60 * std::sin(k * 2 * Pi / 9));
+    bench->AddNest(x, y);
   }
   return bench;
 }

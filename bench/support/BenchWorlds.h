@@ -43,6 +43,8 @@ std::unique_ptr<BenchWorld> DefaultWorld();
 std::unique_ptr<BenchWorld> CrowdedWorld();
 // 100 x 100 grid, food rate 10, ten nests of 200 ants, 200 walls.
 std::unique_ptr<BenchWorld> LargeWorld();
+// The largest world: 181 x 181 grid, ten nests of 3000 ants spread over it.
+std::unique_ptr<BenchWorld> LargestWorld();
 // 100 x 100 grid, `nests` nests of 200 ants, food rate twice the nest count.
 std::unique_ptr<BenchWorld> ScalingWorld(int nests);
 

@@ -1,5 +1,5 @@
-// Long runs: a crowded world keeps its bookkeeping after every tick, the
-// default world forages, and the ant index changes nothing.
+// Long runs: a crowded world keeps its bookkeeping after every tick, and the
+// ant index changes nothing. Foraging itself is pinned by the golden runs.
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -57,29 +57,6 @@ TEST(Soak, CrowdedMultiNestWorldKeepsItsBookkeeping) {
     Timer1_Timer(context);
     ExpectInvariants(world);
     ASSERT_FALSE(painter.OutOfRange);
-  }
-}
-
-TEST(Foraging, DefaultWorldDeliversFoodAndBreeds) {
-  for (uint64_t seed = 1; seed <= 5; ++seed) {
-    TickRig rig(seed);
-    World& world = rig.world();
-    world.Running = true;
-    int births = 0;
-    double delivered = 0;  // a lower bound: eating at the nest hides some
-    for (int t = 0; t < 3000 && world.NestCount == 1; ++t) {
-      const int population = world.Settings.Population;
-      const double store = world.Nests[0].FoodStore;
-      rig.Tick();
-      if (world.NestCount != 1) break;
-      int died = 0;  // one metabolism step took them to or below 0
-      for (const Ant& ant : world.Nests[0].Ants) died += ant.Energy <= 0 && ant.Energy > -world.Nests[0].AntUnit / 100;
-      const int born = world.Settings.Population - population + died;
-      births += born;
-      delivered += std::max(0.0, world.Nests[0].FoodStore - store + born * world.Nests[0].AntUnit);
-    }
-    EXPECT_GT(delivered, 0) << "seed " << seed;
-    EXPECT_GT(births, 50) << "seed " << seed;
   }
 }
 
