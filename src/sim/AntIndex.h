@@ -62,6 +62,13 @@ class AntIndex {
   // The same ants, in nest-then-ant order, as a scan of every ant meets them.
   const std::vector<AntRef>& Near(double worldX, double worldY, double reach);
 
+  // The bucket grid: columns and rows of cell slots (the grid and its border
+  // ring), and the slot a world point falls in.
+  int Columns() const { return columns_; }
+  int Rows() const { return rows_; }
+  double CellSize() const { return cellSize_; }
+  size_t CellSlotAt(double worldX, double worldY) const { return CellSlot(Column(worldX), Row(worldY)); }
+
  private:
   // The clamped column (or row) of a world coordinate: floor(v / cellSize)
   // held to 0..count-1. Truncation equals the floor on everything the lower

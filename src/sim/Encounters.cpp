@@ -9,6 +9,7 @@
 #include "model/Queries.h"
 #include "model/World.h"
 #include "sim/AntIndex.h"
+#include "sim/RivalNeighbourhood.h"
 
 namespace keldor {
 namespace {
@@ -38,7 +39,10 @@ void Bite(World& world, Cell& cell, const Nest& nest, const Ant& biter, Ant& vic
 class NearbyEncounters {
  public:
   NearbyEncounters(World& world, const AntIndex& index)
-      : world_(world), index_(index), firstTouch_(static_cast<size_t>(world.NestCount)) {
+      : world_(world),
+        index_(index),
+        rivals_(world, index, HeadToBodyReach(world)),
+        firstTouch_(static_cast<size_t>(world.NestCount)) {
     double longestSquaredSpan = 0;
     queenReach_.reserve(static_cast<size_t>(world.NestCount));
     for (int n = 0; n < world.NestCount; ++n) {
@@ -62,6 +66,7 @@ class NearbyEncounters {
     const int nestCount = world_.NestCount;
     const Nest& nest = world_.Nests[static_cast<size_t>(nestIndex)];
     const Ant& biter = nest.Ants[antIndex];
+    if (!rivals_.MayHoldRival(index_.CellSlotAt(biter.HeadX, biter.HeadY), nestIndex)) return;
     const double scaleX = world_.Settings.ScaleX;
     const double biterShare = ReachShare(biter, antIndex) / 2 / scaleX;
     for (int m = 0; m < nestCount; ++m) {
@@ -111,8 +116,26 @@ class NearbyEncounters {
     return dx * dx + dy * dy;
   }
 
+  // How far from a biter's head, in world units, a living victim's head may
+  // lie: the largest touch reach plus the longest body.
+  static double HeadToBodyReach(const World& world) {
+    double share = 0;
+    double squaredSpan = 0;
+    for (int n = 0; n < world.NestCount; ++n) {
+      const Nest& nest = world.Nests[static_cast<size_t>(n)];
+      for (int a = 0; a < nest.AntCount(); ++a) {
+        const Ant& ant = nest.Ants[a];
+        if (!(ant.Energy > 0)) continue;
+        share = std::max(share, ReachShare(ant, a));
+        squaredSpan = std::max(squaredSpan, SquaredSpan(ant));
+      }
+    }
+    return share / world.Settings.ScaleX + std::sqrt(squaredSpan);
+  }
+
   World& world_;
   const AntIndex& index_;
+  RivalNeighbourhood rivals_;
   double workerLength_ = 0;
   double workerSpan_ = 0;
   std::vector<double> queenReach_;  // per nest: the queen's share of a touch reach plus her span
