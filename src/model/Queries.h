@@ -38,7 +38,16 @@ inline double Max(double a, double b) { return a > b ? a : b; }
 // Distance, in world units, from a's head to the segment from b's rear to b's head.
 double PointToSegmentDistance(const Ant& a, const Ant& b);
 
-// The cell column (or row) of a world coordinate: Int(v / CellSize) + 1.
-inline int16_t CellOfCoordinate(double v, double cellSize) { return ClampToInt16(CInt(Int(v / cellSize) + 1)); }
+// The cell column (or row) of a world coordinate: Int(v / CellSize) + 1,
+// held to the 16-bit range. Every ant step asks it several times: where the
+// result fits, the floor is taken directly on the truncated quotient.
+inline int16_t CellOfCoordinate(double v, double cellSize) {
+  const double q = v / cellSize;
+  if (q >= Int16Min && q < Int16Max) {
+    const int truncated = static_cast<int>(q);
+    return static_cast<int16_t>((truncated > q ? truncated - 1 : truncated) + 1);
+  }
+  return ClampToInt16(CInt(Int(q) + 1));
+}
 
 }  // namespace keldor

@@ -20,19 +20,29 @@ class RivalNeighbourhood {
 
   // False only when no living ant of a colony other than nest n's has its
   // head within reach of any point of the cell slot.
-  bool MayHoldRival(size_t slot, int nest) const {
-    if (nearColonies_.empty()) return true;
-    return (nearColonies_[slot] & ~colonyBit_[static_cast<size_t>(nest)]) != 0;
+  bool MayHoldRival(size_t slot, int nest) {
+    if (colonies_.empty()) return true;
+    uint64_t& near = nearColonies_[slot];
+    if ((near & Summed) == 0) near = Summed | NearbyColonies(slot);
+    return (near & ~Summed & ~colonyBit_[static_cast<size_t>(nest)]) != 0;
   }
 
  private:
-  // Up to 64 colonies, one bit each; beyond that, or for a reach of many
-  // cells, the summary is not built and every biter is searched.
-  static constexpr int MaxColonies = 64;
+  // Up to 63 colonies, one bit each; beyond that, or for a reach of many
+  // cells, no summary is made and every biter is searched.
+  static constexpr int MaxColonies = 63;
+  static constexpr uint64_t Summed = uint64_t{1} << 63;  // the slot's neighbourhood is summed up
   static constexpr int MaxCellsOfReach = 8;
 
+  // The colonies of the slots within cellsOfReach_ of the slot, both ways.
+  uint64_t NearbyColonies(size_t slot) const;
+
+  int columns_ = 0;
+  int rows_ = 0;
+  int cellsOfReach_ = 0;
   std::vector<uint64_t> colonyBit_;     // per nest: the bit of its colony (nests of one signature)
-  std::vector<uint64_t> nearColonies_;  // per cell slot: colonies with a head within reach
+  std::vector<uint64_t> colonies_;      // per cell slot: the colonies with a head in it
+  std::vector<uint64_t> nearColonies_;  // per cell slot: Summed and the nearby colonies, once asked
 };
 
 }  // namespace keldor
