@@ -55,6 +55,20 @@ void ForCross(const World& world, int x, int y, Visit visit) {
   }
 }
 
+// Mixes the source into a foreign signature character by character, after a
+// reseed. Rare next to the checks before it, so kept out of their way.
+[[gnu::noinline]] void MixSignature(RandomSource& random, const Signature& source, Cell& target, int length) {
+  random.ReseedFromClock();
+  assert(length <= Signature::Capacity);
+  std::array<char, Signature::Capacity> mixed{};
+  for (int k = 0; k < length; ++k) {
+    // A never-marked (empty) signature reads as "0" characters.
+    const char own = k < target.Signature.Length() ? target.Signature[k] : '0';
+    mixed[static_cast<size_t>(k)] = Int(2 * random.Rnd()) == 0 ? source[k] : own;
+  }
+  target.Signature = Signature(std::string_view(mixed.data(), static_cast<size_t>(length)));
+}
+
 ScentLookup LookupOf(const Cell& cell) { return {cell.Scent, cell.Signature}; }
 // A lookup that found no cell reads as scent 0 with no signature.
 ScentLookup LookupOf(const Cell* cell) { return cell != nullptr ? LookupOf(*cell) : ScentLookup{}; }
@@ -244,15 +258,7 @@ void BlendSignature(RandomSource& random, int antIndex, const Nest& source, Cell
     target.Signature = source.Signature;
     return;
   }
-  random.ReseedFromClock();
-  assert(length <= Signature::Capacity);
-  std::array<char, Signature::Capacity> mixed{};
-  for (int k = 0; k < length; ++k) {
-    // A never-marked (empty) signature reads as "0" characters.
-    const char own = k < target.Signature.Length() ? target.Signature[k] : '0';
-    mixed[static_cast<size_t>(k)] = Int(2 * random.Rnd()) == 0 ? source.Signature[k] : own;
-  }
-  target.Signature = Signature(std::string_view(mixed.data(), static_cast<size_t>(length)));
+  MixSignature(random, source.Signature, target, length);
 }
 
 void LayScentTrail(World& world, RandomSource& random, int nestIndex, int antIndex, int cx, int cy, int nx, int ny) {
