@@ -74,11 +74,6 @@ ScentLookup LookupOf(const Cell& cell) { return {cell.Scent, cell.Signature}; }
 ScentLookup LookupOf(const Cell* cell) { return cell != nullptr ? LookupOf(*cell) : ScentLookup{}; }
 double ScentOf(const Cell* cell) { return cell != nullptr ? cell->Scent : 0; }
 
-struct Move {
-  double DX = 0;
-  double DY = 0;
-};
-
 void Translate(Ant& ant, double dx, double dy) {
   ant.RearX += dx;
   ant.RearY += dy;
@@ -101,33 +96,49 @@ void Turn(const World& world, Ant& ant, double px, double py) {
   ant.HeadY = headY;
 }
 
-bool MayStepForward(const World& world, const Nest& nest, const Ant& ant, int cx, int cy, int nx, int ny) {
-  const WorldSettings& s = world.Settings;
-  if (!InGrid(world, nx, ny)) return false;
-  if (nx != cx && ny != cy) return false;
-  if (IsBrick(world, nx, ny)) return false;
-  const Cell& c = world.Cells(cx, cy);
-  const Cell& n = world.Cells(nx, ny);
-  const double cellArea = (s.ScaleX * s.CellSize) * (s.ScaleX * s.CellSize);
-  if (n.AntCount > cellArea / nest.AntBodyArea / 2) return false;
-  const double load = ant.Load;
-  if (!(load == 0 || n.Signature == nest.Signature || n.Signature == Signature::Unmarked())) return false;
+// The forward test, condition by condition. C is the current cell, N the
+// target; the scent rules compare exact scent values.
+bool IsEdgeNeighbourOrSame(int cx, int cy, int nx, int ny) { return nx == cx || ny == cy; }
 
-  // The neighbourhood lookups are pure: each is made only when a rule needs it.
-  if (nx == cx && ny == cy) return true;  // a
-  if (load == 0) {
-    const double foodward = FoodwardCell(world, cx, cy).Scent;
-    return n.Scent == foodward                                                        // b
-           || (foodward <= 0 && c.Scent <= 0)                                         // c
-           || (c.Scent == foodward && n.Scent == NestwardCell(world, cx, cy).Scent);  // d
-  }
-  const double nestMark = -s.NestScentMax;
+bool HasRoom(const World& world, const Nest& nest, const Cell& target) {
+  const WorldSettings& s = world.Settings;
+  const double cellArea = (s.ScaleX * s.CellSize) * (s.ScaleX * s.CellSize);
+  return target.AntCount <= cellArea / nest.AntBodyArea / 2;
+}
+
+// A loaded ant keeps to its own colony's trail or to unmarked cells.
+bool MayEnterTrail(const Nest& nest, const Ant& ant, const Cell& target) {
+  return ant.Load == 0 || target.Signature == nest.Signature || target.Signature == Signature::Unmarked();
+}
+
+// Rules b, c and d: a searching ant climbs the food gradient, walks anywhere
+// while no food scent is near, or follows the nest gradient on a food crest.
+bool SearchingRulesAdmit(const World& world, int cx, int cy, const Cell& c, const Cell& n) {
+  const double foodward = FoodwardCell(world, cx, cy).Scent;
+  if (n.Scent == foodward) return true;                   // b
+  if (foodward <= 0 && c.Scent <= 0) return true;         // c
+  return c.Scent == foodward && n.Scent == NestwardCell(world, cx, cy).Scent;  // d
+}
+
+// Rules e to h: a loaded ant heads for the nest cell, leaves a nestless
+// spot for food scent, or walks down its own colony's nest gradient.
+bool CarryingRulesAdmit(const World& world, const Nest& nest, int cx, int cy, const Cell& c, const Cell& n) {
+  const double nestMark = -world.Settings.NestScentMax;
   if (n.Scent == nestMark) return true;  // e
   const ScentLookup nw = NestwardCell(world, cx, cy);
-  return (n.Scent > 0 && nw.Scent == 0)                                                          // f
-         || (c.Scent > nestMark && c.Scent == nw.Scent && n.Scent == FoodwardCell(world, cx, cy).Scent)  // g
-         || (nw.Signature == nest.Signature && (n.Scent < 0 || nw.Scent != 0) &&                     // h
-             n.Scent == nw.Scent);
+  if (n.Scent > 0 && nw.Scent == 0) return true;  // f
+  if (c.Scent > nestMark && c.Scent == nw.Scent && n.Scent == FoodwardCell(world, cx, cy).Scent) return true;  // g
+  return nw.Signature == nest.Signature && (n.Scent < 0 || nw.Scent != 0) && n.Scent == nw.Scent;  // h
+}
+
+// The neighbourhood lookups are pure: each is made only when a rule needs it.
+bool MayStepForward(const World& world, const Nest& nest, const Ant& ant, int cx, int cy, int nx, int ny) {
+  if (!InGrid(world, nx, ny) || !IsEdgeNeighbourOrSame(cx, cy, nx, ny) || IsBrick(world, nx, ny)) return false;
+  const Cell& c = world.Cells(cx, cy);
+  const Cell& n = world.Cells(nx, ny);
+  if (!HasRoom(world, nest, n) || !MayEnterTrail(nest, ant, n)) return false;
+  if (nx == cx && ny == cy) return true;  // a
+  return ant.Load == 0 ? SearchingRulesAdmit(world, cx, cy, c, n) : CarryingRulesAdmit(world, nest, cx, cy, c, n);
 }
 
 void StepQueen(World& world, RandomSource& random, int nestIndex) {
@@ -164,54 +175,80 @@ void DeliverAndFeed(World& world, Nest& nest, Ant& ant, Cell& cell) {
   nest.FoodStore -= eat;
 }
 
+// Moves one ant from cell `from` to cell `to` in the cells' ant counts.
+void MoveAntCount(World& world, int fromX, int fromY, int toX, int toY) {
+  --world.Cells(fromX, fromY).AntCount;
+  ++world.Cells(toX, toY).AntCount;
+}
+
+// A worker's step after its turn: the cell it stands on, the cell ahead and
+// the step vector, (head - rear) / s.
+struct WorkerStep {
+  int CurrentX, CurrentY;
+  int TargetX, TargetY;
+  double DX, DY;
+};
+
+void StepForward(World& world, RandomSource& random, int nestIndex, int antIndex, const WorkerStep& step) {
+  Ant& ant = world.Nests[static_cast<size_t>(nestIndex)].Ants[antIndex];
+  Translate(ant, step.DX, step.DY);
+  ant.Angle = RandomTurn(random, 60);
+  MoveAntCount(world, step.CurrentX, step.CurrentY, step.TargetX, step.TargetY);
+  LayScentTrail(world, random, nestIndex, antIndex, step.CurrentX, step.CurrentY, step.TargetX, step.TargetY);
+  ant.CellX = static_cast<int16_t>(step.TargetX);
+  ant.CellY = static_cast<int16_t>(step.TargetY);
+}
+
+// A refused step: back off one step, or, where that cell is off the grid or
+// walled, stay where the step began (the turn undone).
+void BackOff(World& world, RandomSource& random, int nestIndex, int antIndex, const WorkerStep& step,
+             const Ant& before) {
+  Ant& ant = world.Nests[static_cast<size_t>(nestIndex)].Ants[antIndex];
+  const double cellSize = world.Settings.CellSize;
+  const int bx = CellOfCoordinate(ant.HeadX - step.DX, cellSize);
+  const int by = CellOfCoordinate(ant.HeadY - step.DY, cellSize);
+  if (InGrid(world, bx, by) && !IsBrick(world, bx, by)) {
+    if (bx != step.CurrentX || by != step.CurrentY) MoveAntCount(world, step.CurrentX, step.CurrentY, bx, by);
+    LayScentTrail(world, random, nestIndex, antIndex, step.CurrentX, step.CurrentY, bx, by);
+    Translate(ant, -step.DX, -step.DY);
+    ant.Angle = RandomTurn(random, 60);
+    ant.CellX = static_cast<int16_t>(bx);
+    ant.CellY = static_cast<int16_t>(by);
+    return;
+  }
+  LayScentTrail(world, random, nestIndex, antIndex, step.CurrentX, step.CurrentY, bx, by);
+  ant.RearX = before.RearX;
+  ant.RearY = before.RearY;
+  ant.HeadX = before.HeadX;
+  ant.HeadY = before.HeadY;
+  ant.Angle = RandomTurn(random, 60);
+}
+
 void StepWorker(World& world, RandomSource& random, int nestIndex, int antIndex, double stepDivisor) {
   Nest& nest = world.Nests[static_cast<size_t>(nestIndex)];
   Ant& ant = nest.Ants[antIndex];
   const double cellSize = world.Settings.CellSize;
-  const Ant saved = ant;
-  const int cx = CellOfCoordinate(ant.HeadX, cellSize);
-  const int cy = CellOfCoordinate(ant.HeadY, cellSize);
-  ant.CellX = static_cast<int16_t>(cx);
-  ant.CellY = static_cast<int16_t>(cy);
+  const Ant before = ant;
+  WorkerStep step{};
+  step.CurrentX = CellOfCoordinate(ant.HeadX, cellSize);
+  step.CurrentY = CellOfCoordinate(ant.HeadY, cellSize);
+  ant.CellX = static_cast<int16_t>(step.CurrentX);
+  ant.CellY = static_cast<int16_t>(step.CurrentY);
   Turn(world, ant, ant.RearX + (ant.HeadX - ant.RearX) / stepDivisor,
        ant.RearY + (ant.HeadY - ant.RearY) / stepDivisor);
-  const Move step{(ant.HeadX - ant.RearX) / stepDivisor, (ant.HeadY - ant.RearY) / stepDivisor};
-  const int nx = CellOfCoordinate(ant.HeadX + step.DX, cellSize);
-  const int ny = CellOfCoordinate(ant.HeadY + step.DY, cellSize);
-  Cell& current = world.Cells(cx, cy);
+  step.DX = (ant.HeadX - ant.RearX) / stepDivisor;
+  step.DY = (ant.HeadY - ant.RearY) / stepDivisor;
+  step.TargetX = CellOfCoordinate(ant.HeadX + step.DX, cellSize);
+  step.TargetY = CellOfCoordinate(ant.HeadY + step.DY, cellSize);
 
-  if (MayStepForward(world, nest, ant, cx, cy, nx, ny)) {
-    Translate(ant, step.DX, step.DY);
-    ant.Angle = RandomTurn(random, 60);
-    Cell& target = world.Cells(nx, ny);
-    --current.AntCount;
-    ++target.AntCount;
-    LayScentTrail(world, random, nestIndex, antIndex, cx, cy, nx, ny);
-    ant.CellX = static_cast<int16_t>(nx);
-    ant.CellY = static_cast<int16_t>(ny);
+  if (MayStepForward(world, nest, ant, step.CurrentX, step.CurrentY, step.TargetX, step.TargetY)) {
+    StepForward(world, random, nestIndex, antIndex, step);
   } else {
-    const int bx = CellOfCoordinate(ant.HeadX - step.DX, cellSize);
-    const int by = CellOfCoordinate(ant.HeadY - step.DY, cellSize);
-    if (InGrid(world, bx, by) && !IsBrick(world, bx, by)) {
-      if (bx != cx || by != cy) {
-        --current.AntCount;
-        ++world.Cells(bx, by).AntCount;
-      }
-      LayScentTrail(world, random, nestIndex, antIndex, cx, cy, bx, by);
-      Translate(ant, -step.DX, -step.DY);
-      ant.Angle = RandomTurn(random, 60);
-      ant.CellX = static_cast<int16_t>(bx);
-      ant.CellY = static_cast<int16_t>(by);
-    } else {
-      LayScentTrail(world, random, nestIndex, antIndex, cx, cy, bx, by);
-      ant.RearX = saved.RearX;
-      ant.RearY = saved.RearY;
-      ant.HeadX = saved.HeadX;
-      ant.HeadY = saved.HeadY;
-      ant.Angle = RandomTurn(random, 60);
-    }
+    BackOff(world, random, nestIndex, antIndex, step, before);
   }
-  if (nx == cx && ny == cy) DeliverAndFeed(world, nest, ant, current);
+  if (step.TargetX == step.CurrentX && step.TargetY == step.CurrentY) {
+    DeliverAndFeed(world, nest, ant, world.Cells(step.CurrentX, step.CurrentY));
+  }
 }
 
 }  // namespace
