@@ -59,6 +59,8 @@ class NearbyEncounters {
     workerSpan_ = std::sqrt(longestSquaredSpan);
   }
 
+  bool MayMeetRival(int nest) const { return rivals_.MayMeetRival(nest); }
+
   // Ant i of nest n bites the first ant its head touches in each rival
   // colony: the lowest-numbered one, as a scan in ant order meets them.
   void Resolve(Cell& cell, int nestIndex, int antIndex) {
@@ -175,6 +177,7 @@ void ResolveEncounters(World& world, AntIndex* index) {
   }
   NearbyEncounters encounters(world, *index);
   for (int n = 0; n < nestCount; ++n) {
+    if (!encounters.MayMeetRival(n)) continue;
     Nest& nest = world.Nests[static_cast<size_t>(n)];
     for (int i = 0; i < nest.AntCount(); ++i) {
       const Ant& ant = nest.Ants[i];

@@ -1,6 +1,11 @@
-// Which colonies have a living ant near each cell, so that the encounter
-// search can pass over a biter with no rival colony within reach: in a world
-// of large, separate colonies that is almost every biter.
+// Where rival colonies can meet, so that the encounter search passes over
+// biters with no rival within reach: in a world of large, separate colonies
+// that is almost every biter. Two summaries, both exact bounds:
+//   - per colony (the nests of one signature), whether the box around its
+//     living ants' heads comes within reach of another colony's box;
+//   - per cell, which colonies have a head within reach of it (made on first
+//     use, for up to 63 colonies and a reach of a few cells).
+// Valid while no ant moves, is born or dies: for one encounter phase.
 #pragma once
 
 #include <cstddef>
@@ -18,30 +23,36 @@ class RivalNeighbourhood {
   // (the largest touch reach plus the longest body).
   RivalNeighbourhood(const World& world, const AntIndex& index, double reach);
 
-  // False only when no living ant of a colony other than nest n's has its
-  // head within reach of any point of the cell slot.
-  bool MayHoldRival(size_t slot, int nest) {
-    if (colonies_.empty()) return true;
-    uint64_t& near = nearColonies_[slot];
-    if ((near & Summed) == 0) near = Summed | NearbyColonies(slot);
-    return (near & ~Summed & ~colonyBit_[static_cast<size_t>(nest)]) != 0;
-  }
+  // False when no living ant of another colony comes within reach of any
+  // living ant of nest n.
+  bool MayMeetRival(int nest) const { return !isolated_[static_cast<size_t>(colonyOfNest_[static_cast<size_t>(nest)])]; }
+
+  // False when no living ant of a colony other than nest n's has its head
+  // within reach of any point of the cell slot.
+  bool MayHoldRival(size_t slot, int nest);
 
  private:
-  // Up to 63 colonies, one bit each; beyond that, or for a reach of many
-  // cells, no summary is made and every biter is searched.
-  static constexpr int MaxColonies = 63;
+  struct Box {
+    double Left, Top, Right, Bottom;
+  };
+  static constexpr int MaxColoniesCompared = 256;  // beyond that, no colony counts as isolated
+  static constexpr int MaxColonyBits = 63;         // beyond that, no cell summary
   static constexpr uint64_t Summed = uint64_t{1} << 63;  // the slot's neighbourhood is summed up
   static constexpr int MaxCellsOfReach = 8;
 
+  void SummariseCells();
   // The colonies of the slots within cellsOfReach_ of the slot, both ways.
   uint64_t NearbyColonies(size_t slot) const;
 
-  int columns_ = 0;
-  int rows_ = 0;
-  int cellsOfReach_ = 0;
-  std::vector<uint64_t> colonyBit_;     // per nest: the bit of its colony (nests of one signature)
-  std::vector<uint64_t> colonies_;      // per cell slot: the colonies with a head in it
+  const World& world_;
+  const AntIndex& index_;
+  double reach_;
+  int colonies_ = 0;
+  std::vector<int> colonyOfNest_;
+  std::vector<bool> isolated_;          // per colony
+  bool cellsSummarised_ = false;
+  int cellsOfReach_ = 0;                // 0: no cell summary
+  std::vector<uint64_t> cellColonies_;  // per cell slot: the colonies with a head in it
   std::vector<uint64_t> nearColonies_;  // per cell slot: Summed and the nearby colonies, once asked
 };
 
