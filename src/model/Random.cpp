@@ -32,7 +32,15 @@ double VirtualClock::SecondsSinceMidnight() {
 }
 
 void VirtualClock::Advance(double seconds) {
-  now_ = std::fmod(now_ + seconds, SecondsPerDay);
+  const double later = now_ + seconds;
+  // Past midnight by less than a day, the subtraction is exact and equals fmod.
+  if (later >= 0 && later < SecondsPerDay) {
+    now_ = later;
+  } else if (later >= SecondsPerDay && later < 2 * SecondsPerDay) {
+    now_ = later - SecondsPerDay;
+  } else {
+    now_ = std::fmod(later, SecondsPerDay);
+  }
 }
 
 RandomSource::RandomSource(Clock& clock) : clock_(clock) { Seed(0.0); }

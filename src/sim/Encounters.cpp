@@ -64,11 +64,12 @@ class NearbyEncounters {
   // Ant i of nest n bites the first ant its head touches in each rival
   // colony: the lowest-numbered one, as a scan in ant order meets them.
   void Resolve(Cell& cell, int nestIndex, int antIndex) {
-    if (cell.AntCount < 3) return;
     const int nestCount = world_.NestCount;
     const Nest& nest = world_.Nests[static_cast<size_t>(nestIndex)];
     const Ant& biter = nest.Ants[antIndex];
+    // Both tests are pure; the rival summary is the cheaper read.
     if (!rivals_.MayHoldRival(index_.CellSlotAt(biter.HeadX, biter.HeadY), nestIndex)) return;
+    if (cell.AntCount < 3) return;
     const double scaleX = world_.Settings.ScaleX;
     const double biterShare = ReachShare(biter, antIndex) / 2 / scaleX;
     for (int m = 0; m < nestCount; ++m) {
