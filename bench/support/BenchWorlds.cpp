@@ -11,13 +11,13 @@
 namespace keldor::bench {
 
 BenchWorld::BenchWorld(int grid, int foodRate, int antsPerNest) {
-  Form_Load(world);
+  StartUp(world);
   NewWorldInputs inputs;
   inputs.GridWidthText = std::to_string(grid);
   inputs.GridHeightText = std::to_string(grid);
   if (foodRate >= 0) world.Settings.FoodRate = static_cast<int16_t>(foodRate);
   if (antsPerNest >= 0) world.Settings.AntsPerNest = static_cast<int16_t>(antsPerNest);
-  mnuFileNew_Click(world, random, inputs);
+  NewWorld(world, random, inputs);
   world.Running = true;
 }
 
@@ -30,7 +30,7 @@ void BenchWorld::AddNest(int x, int y) {
 void BenchWorld::Tick(int count) {
   for (int i = 0; i < count; ++i) {
     clock.Advance(0.075);
-    Timer1_Timer(context);
+    RunTick(context);
     world.Running = true;
   }
 }

@@ -13,7 +13,7 @@ constexpr int StartUpTraceSliderMax = 1000;
 
 }  // namespace
 
-void Form_Load(World& world) {
+void StartUp(World& world) {
   WorldSettings& s = world.Settings;
   s.ScaleX = 10;
   s.ScaleY = 10;
@@ -48,7 +48,7 @@ void CollapsePalette(World& world) {
   world.Controls.ActionsHeight = CollapsedPaletteHeight;
 }
 
-void btnStop_Click(World& world) {
+void TogglePlayPause(World& world) {
   CollapsePalette(world);
   world.Running = !world.Running;
   if (world.Running) {
@@ -60,7 +60,7 @@ void btnStop_Click(World& world) {
   }
 }
 
-void btnAnts_Click(World& world) {
+void ToggleAnts(World& world) {
   CollapsePalette(world);
   if (!world.TimerEnabled) return;
   if (world.ShowAnts != 0) {
@@ -72,7 +72,7 @@ void btnAnts_Click(World& world) {
   }
 }
 
-void btnOdor_Click(World& world) {
+void ToggleOdor(World& world) {
   CollapsePalette(world);
   if (!world.TimerEnabled) return;
   if (world.ShowOdor == 0) {

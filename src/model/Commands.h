@@ -9,7 +9,7 @@ struct World;
 
 // Start-up (the main window's load): scales and zoom 10, GridX 30, CellSize
 // from the mini-map, the spread amount, the defaults, centred scroll bars.
-void Form_Load(World& world);
+void StartUp(World& world);
 
 // The default settings, as a freshly loaded options dialog leaves them.
 void LoadDefaults(World& world);
@@ -19,12 +19,12 @@ void CollapsePalette(World& world);
 
 // Play/Pause: collapse the palette, toggle Running, and show "Pause" with the
 // pause picture while running, "Play" with the play picture while paused.
-void btnStop_Click(World& world);
+void TogglePlayPause(World& world);
 
 // Show or hide the ants; ignored while no world exists.
-void btnAnts_Click(World& world);
+void ToggleAnts(World& world);
 
 // Show or hide the odor traces; ignored while no world exists.
-void btnOdor_Click(World& world);
+void ToggleOdor(World& world);
 
 }  // namespace keldor

@@ -23,15 +23,15 @@ OptionsForm::OptionsForm(World& world) : world_(world) {
   foodRate_ = s.FoodRate;
   foodTrace_ = s.FoodScentMax;
   nestTrace_ = s.NestScentMax;
-  txtNumAnts_Change(CStr(s.AntsPerNest));
-  txtAntSize_Change(CStr(s.AntSizeMm));
+  AntCountTyped(CStr(s.AntsPerNest));
+  AntSizeTyped(CStr(s.AntSizeMm));
   const int16_t gridSize = world.PendingGridSize != 0 ? world.PendingGridSize : s.GridX;
-  txtGridDimX_Change(CStr(gridSize));
+  GridSizeTyped(CStr(gridSize));
   colour_[0] = CStr(s.AntRed);
   colour_[1] = CStr(s.AntGreen);
   colour_[2] = CStr(s.AntBlue);
   for (ColourBox box : {ColourBox::Red, ColourBox::Green, ColourBox::Blue}) {
-    txtAntsColour_Change(box, std::string(ColourText(box)));
+    ColourTyped(box, std::string(ColourText(box)));
   }
   world_.OptionsOpen = true;
   world_.OptionsNestTraceValue = static_cast<int16_t>(nestTrace_);
@@ -39,7 +39,7 @@ OptionsForm::OptionsForm(World& world) : world_(world) {
 
 OptionsForm::~OptionsForm() { world_.OptionsOpen = false; }
 
-void OptionsForm::txtNumAnts_Change(const std::string& text) {
+void OptionsForm::AntCountTyped(const std::string& text) {
   if (IsNumeric(text)) {
     // The whole part towards minus infinity, then the sign dropped: -7.9 gives 8.
     numAnts_ = CStr(ClampToInt16(static_cast<int64_t>(std::fabs(Int(std::clamp(ToNumber(text), -1e9, 1e9))))));
@@ -49,7 +49,7 @@ void OptionsForm::txtNumAnts_Change(const std::string& text) {
   world_.Settings.AntsPerNest = ClampToInt16(CInt(ToNumber(numAnts_)));
 }
 
-void OptionsForm::txtAntSize_Change(const std::string& text) {
+void OptionsForm::AntSizeTyped(const std::string& text) {
   WorldSettings& s = world_.Settings;
   antSize_ = text;
   if (!IsNumeric(text)) {
@@ -63,7 +63,7 @@ void OptionsForm::txtAntSize_Change(const std::string& text) {
   s.AntSizeMm = ToNumber(antSize_);
 }
 
-void OptionsForm::txtAntsColour_Change(ColourBox box, const std::string& text) {
+void OptionsForm::ColourTyped(ColourBox box, const std::string& text) {
   WorldSettings& s = world_.Settings;
   std::string& changed = colour_[static_cast<int>(box)];
   changed = text;
@@ -76,23 +76,23 @@ void OptionsForm::txtAntsColour_Change(ColourBox box, const std::string& text) {
   s.AntColour = preview_;
 }
 
-void OptionsForm::txtGridDimX_Change(const std::string& text) {
+void OptionsForm::GridSizeTyped(const std::string& text) {
   // A number shows at once as the size New builds from it.
   gridX_ = IsNumeric(text) ? CStr(GridSizeFromText(text)) : text;
   // The grid is square.
   gridY_ = gridX_;
 }
 
-void OptionsForm::sliLifeSpan_Change(int value) { lifeSpan_ = ClampToRange(value, LifeSpanRange); }
+void OptionsForm::LifeSpanMoved(int value) { lifeSpan_ = ClampToRange(value, LifeSpanRange); }
 
-void OptionsForm::sliFoodRate_Change(int value) { foodRate_ = ClampToRange(value, FoodRateRange); }
+void OptionsForm::FoodRateMoved(int value) { foodRate_ = ClampToRange(value, FoodRateRange); }
 
-void OptionsForm::sliFoodTrace_Change(int value) {
+void OptionsForm::FoodTraceMoved(int value) {
   foodTrace_ = ClampToRange(value, TraceRange);
   world_.Settings.FoodTraceSetting = static_cast<int16_t>(foodTrace_);
 }
 
-void OptionsForm::sliNestTrace_Change(int value) {
+void OptionsForm::NestTraceMoved(int value) {
   nestTrace_ = ClampToRange(value, TraceRange);
   world_.Settings.NestTraceSetting = static_cast<int16_t>(nestTrace_);
   world_.OptionsNestTraceValue = static_cast<int16_t>(nestTrace_);
@@ -118,7 +118,7 @@ NewWorldInputs OptionsNewWorldInputs(const World& world) {
 }
 
 void NewFromOptions(World& world, RandomSource& random) {
-  mnuFileNew_Click(world, random, OptionsNewWorldInputs(world));
+  NewWorld(world, random, OptionsNewWorldInputs(world));
   world.PendingGridSize = 0;
 }
 

@@ -64,14 +64,14 @@ class OptionsForm {
 
   // Change handlers: each takes the text as typed and leaves the corrected
   // text in the field (the window shows it with the caret at its end).
-  void txtNumAnts_Change(const std::string& text);
-  void txtAntSize_Change(const std::string& text);
-  void txtAntsColour_Change(ColourBox box, const std::string& text);
-  void txtGridDimX_Change(const std::string& text);
-  void sliLifeSpan_Change(int value);
-  void sliFoodRate_Change(int value);
-  void sliFoodTrace_Change(int value);
-  void sliNestTrace_Change(int value);
+  void AntCountTyped(const std::string& text);
+  void AntSizeTyped(const std::string& text);
+  void ColourTyped(ColourBox box, const std::string& text);
+  void GridSizeTyped(const std::string& text);
+  void LifeSpanMoved(int value);
+  void FoodRateMoved(int value);
+  void FoodTraceMoved(int value);
+  void NestTraceMoved(int value);
 
   // OK: the colour components, life span, food rate and grid size.
   void ApplyOptions();

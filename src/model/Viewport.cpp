@@ -78,42 +78,42 @@ void SetScrollRanges(World& world) {
   SetRange(Vertical(world));
 }
 
-void HScroll1_Change(World& world) {
+void HorizontalScrollChanged(World& world) {
   const int16_t value = world.View.HScroll1.Value;
   world.View.Terrain.Left = value - world.View.Terrain.Width / 2;
   world.ViewCentreX = static_cast<float>(value / world.ZoomX);
 }
 
-void VScroll1_Change(World& world) {
+void VerticalScrollChanged(World& world) {
   const int16_t value = world.View.VScroll1.Value;
   world.View.Terrain.Top = value - world.View.Terrain.Height / 2;
   world.ViewCentreY = static_cast<float>(value / world.ZoomY);
 }
 
-void SetHScrollValue(World& world, int value) {
+void SetHorizontalScroll(World& world, int value) {
   world.View.HScroll1.Value = ClampToBar(world.View.HScroll1, value);
-  HScroll1_Change(world);
+  HorizontalScrollChanged(world);
 }
 
-void SetVScrollValue(World& world, int value) {
+void SetVerticalScroll(World& world, int value) {
   world.View.VScroll1.Value = ClampToBar(world.View.VScroll1, value);
-  VScroll1_Change(world);
+  VerticalScrollChanged(world);
 }
 
 void CentreScrollBars(World& world) {
   // The sum is taken in 32 bits: it cannot overflow here.
   const ScrollBar& h = world.View.HScroll1;
   const ScrollBar& v = world.View.VScroll1;
-  SetHScrollValue(world, CInt((static_cast<int>(h.Min) + h.Max) / 2.0));
-  SetVScrollValue(world, CInt((static_cast<int>(v.Min) + v.Max) / 2.0));
+  SetHorizontalScroll(world, CInt((static_cast<int>(h.Min) + h.Max) / 2.0));
+  SetVerticalScroll(world, CInt((static_cast<int>(v.Min) + v.Max) / 2.0));
 }
 
 void RecentreView(World& world) {
-  SetHScrollValue(world, CentredValue(Horizontal(world), world.ViewCentreX));
-  SetVScrollValue(world, CentredValue(Vertical(world), world.ViewCentreY));
+  SetHorizontalScroll(world, CentredValue(Horizontal(world), world.ViewCentreX));
+  SetVerticalScroll(world, CentredValue(Vertical(world), world.ViewCentreY));
 }
 
-void cmdZoomIn_Click(World& world) {
+void ZoomIn(World& world) {
   CollapsePalette(world);
   world.ZoomX += 1;
   world.ZoomY += 1;
@@ -122,7 +122,7 @@ void cmdZoomIn_Click(World& world) {
   SetTerrainFontForZoom(world);
 }
 
-void cmdZoomOut_Click(World& world) {
+void ZoomOut(World& world) {
   CollapsePalette(world);
   world.ZoomX = Max(2, world.ZoomX - 1);
   world.ZoomY = Max(2, world.ZoomY - 1);
@@ -140,13 +140,13 @@ void ResizeTerrainView(World& world, double newWidth, double newHeight) {
   SetScrollRanges(world);
   t.Left -= (newWidth - oldWidth) / 2;
   t.Top -= (newHeight - oldHeight) / 2;
-  SetHScrollValue(world, ResizedValue(world.View.HScroll1, t.Left + t.Width / 2));
-  SetVScrollValue(world, ResizedValue(world.View.VScroll1, t.Top + t.Height / 2));
+  SetHorizontalScroll(world, ResizedValue(world.View.HScroll1, t.Left + t.Width / 2));
+  SetVerticalScroll(world, ResizedValue(world.View.VScroll1, t.Top + t.Height / 2));
 }
 
 void NavigateFromMap(World& world, double x, double y) {
-  SetHScrollValue(world, CentredValue(Horizontal(world), x));
-  SetVScrollValue(world, CentredValue(Vertical(world), y));
+  SetHorizontalScroll(world, CentredValue(Horizontal(world), x));
+  SetVerticalScroll(world, CentredValue(Vertical(world), y));
 }
 
 }  // namespace keldor

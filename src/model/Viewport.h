@@ -59,10 +59,10 @@ void SetScrollRanges(World& world);
 
 // Set a scroll value (clamped into the bar's range) and run its change
 // handler, which moves the terrain origin and the view centre.
-void SetHScrollValue(World& world, int value);
-void SetVScrollValue(World& world, int value);
-void HScroll1_Change(World& world);
-void VScroll1_Change(World& world);
+void SetHorizontalScroll(World& world, int value);
+void SetVerticalScroll(World& world, int value);
+void HorizontalScrollChanged(World& world);
+void VerticalScrollChanged(World& world);
 
 // Put both scroll values at the middle of their ranges (start-up and New).
 void CentreScrollBars(World& world);
@@ -72,8 +72,8 @@ void RecentreView(World& world);
 
 // The zoom buttons: collapse the tool palette, change the zoom (never below 2),
 // keep the view centre and fit the terrain font size into 1..8.
-void cmdZoomIn_Click(World& world);
-void cmdZoomOut_Click(World& world);
+void ZoomIn(World& world);
+void ZoomOut(World& world);
 
 // The viewport part of a window resize: the terrain view's inner size became
 // newWidth x newHeight terrain units. Keeps the world point at the centre

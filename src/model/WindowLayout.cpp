@@ -6,7 +6,7 @@
 
 namespace keldor {
 
-void Form_Resize(World& world, WindowLayout& layout, double width, double height, bool minimised) {
+void ResizeWindow(World& world, WindowLayout& layout, double width, double height, bool minimised) {
   if (minimised) return;
   layout.Width = width < MinWindowWidth ? MinWindowWidth : width;
   layout.Height = height < MinWindowHeight ? MinWindowHeight : height;
@@ -34,24 +34,24 @@ void Form_Resize(World& world, WindowLayout& layout, double width, double height
   ResizeTerrainView(world, t.Width, t.Height);
 }
 
-void mnuButtons_Click(World& world, WindowLayout& layout) {
+void ToggleButtonBar(World& world, WindowLayout& layout) {
   world.Controls.ButtonBarVisible = !world.Controls.ButtonBarVisible;
-  Form_Resize(world, layout, layout.Width, layout.Height);
+  ResizeWindow(world, layout, layout.Width, layout.Height);
 }
 
-void mnuInfo_Click(World& world, WindowLayout& layout) {
+void ToggleInfoPanel(World& world, WindowLayout& layout) {
   world.Controls.InfoVisible = !world.Controls.InfoVisible;
-  Form_Resize(world, layout, layout.Width, layout.Height);
+  ResizeWindow(world, layout, layout.Width, layout.Height);
 }
 
-void btnQuick_Click(World& world, WindowLayout& layout, int index) {
-  if (index == 1) mnuButtons_Click(world, layout);
-  if (index == 2) mnuInfo_Click(world, layout);
+void QuickToggle(World& world, WindowLayout& layout, int index) {
+  if (index == 1) ToggleButtonBar(world, layout);
+  if (index == 2) ToggleInfoPanel(world, layout);
 }
 
-void btnInfo_Click(World& world, WindowLayout& layout) {
+void CloseInfoPanel(World& world, WindowLayout& layout) {
   CollapsePalette(world);
-  mnuInfo_Click(world, layout);
+  ToggleInfoPanel(world, layout);
 }
 
 double QuickButtonColour(bool panelVisible) { return panelVisible ? QuickShownColour : QuickHiddenColour; }

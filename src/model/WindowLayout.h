@@ -64,15 +64,15 @@ inline constexpr TwipRect MapBox{90, 225, 2000, 2000};
 // than the minimum is given the minimum size (the caller resizes the real
 // window to layout.Width x layout.Height). Nothing happens while minimised.
 // The terrain view keeps the same world point at its centre.
-void Form_Resize(World& world, WindowLayout& layout, double width, double height, bool minimised = false);
+void ResizeWindow(World& world, WindowLayout& layout, double width, double height, bool minimised = false);
 
 // View > Buttons and View > Info: show or hide the panel, then lay out again.
-void mnuButtons_Click(World& world, WindowLayout& layout);
-void mnuInfo_Click(World& world, WindowLayout& layout);
+void ToggleButtonBar(World& world, WindowLayout& layout);
+void ToggleInfoPanel(World& world, WindowLayout& layout);
 // The quick toggles at the window's left edge: 1 the button bar, 2 the panel.
-void btnQuick_Click(World& world, WindowLayout& layout, int index);
+void QuickToggle(World& world, WindowLayout& layout, int index);
 // The info button of the button bar: collapse the palette, toggle the panel.
-void btnInfo_Click(World& world, WindowLayout& layout);
+void CloseInfoPanel(World& world, WindowLayout& layout);
 
 double QuickButtonColour(bool panelVisible);
 

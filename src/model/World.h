@@ -18,7 +18,7 @@ struct World {
   WorldSettings Settings;
 
   // Main-window state.
-  bool TimerEnabled = false;  // Timer1: off until the first New
+  bool TimerEnabled = false;  // the tick timer: off until the first New
   bool Running = false;       // the world advances (Play) or is paused
   bool TickInProgress = false;  // a tick is running (a modal message may re-enter)
   int16_t MouseButton = 0;    // button of the last press or release on the terrain

@@ -25,7 +25,7 @@ void ResetViewForNewWorld(World& world) {
   world.ShowAnts = 1;
   world.Controls.WorldControlsEnabled = true;
   world.Running = true;
-  btnStop_Click(world);
+  TogglePlayPause(world);
   world.Controls.OdorToolTip = "Odor Traces";
   SetScrollRanges(world);
   CentreScrollBars(world);
@@ -105,7 +105,7 @@ int GridSizeFromText(const std::string& text) {
   return std::clamp<int32_t>(v, MinGridSize, MaxGridSize);
 }
 
-void mnuFileNew_Click(World& world, RandomSource& random, const NewWorldInputs& inputs) {
+void NewWorld(World& world, RandomSource& random, const NewWorldInputs& inputs) {
   WorldSettings& s = world.Settings;
   ResetViewForNewWorld(world);
   ReadGridSize(world, inputs);

@@ -28,10 +28,10 @@ struct NewWorldInputs {
 // is held within MinGridSize..MaxGridSize.
 int GridSizeFromText(const std::string& text);
 
-// New (File > New and Start). Leaves the world paused with Timer1 enabled.
+// New (File > New and Start). Leaves the world paused with the tick timer enabled.
 // The control-side effects (enabled buttons, tool tips, scroll bars, font)
 // are written into world.Controls and world.View for the window to show.
-void mnuFileNew_Click(World& world, RandomSource& random, const NewWorldInputs& inputs);
+void NewWorld(World& world, RandomSource& random, const NewWorldInputs& inputs);
 
 // Appends a nest with AntsPerNest ants on (CursorCellX, CursorCellY), which
 // must be a world cell. Returns false, changing nothing, when the nest list is

@@ -56,7 +56,7 @@ void BreedNests(World& world, RandomSource& random) {
 void CheckPopulationLimit(World& world, MessageBox& messages) {
   if (world.Settings.Population != 2000) return;
   messages.Show("Maximum ant population has been reached.");
-  btnStop_Click(world);
+  TogglePlayPause(world);
 }
 
 }  // namespace keldor

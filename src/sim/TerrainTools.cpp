@@ -29,7 +29,7 @@ bool CursorHasBrick(const World& world) {
 
 }  // namespace
 
-void btnAction_Click(World& world, int index) {
+void SelectTool(World& world, int index) {
   std::array<int, 5>& tops = world.Controls.ActionTops;
   std::swap(tops[static_cast<size_t>(index)], tops[static_cast<size_t>(world.Settings.CurrentTool)]);
   world.Settings.CurrentTool = static_cast<int16_t>(index);
@@ -41,10 +41,10 @@ void btnAction_Click(World& world, int index) {
     case 4: world.Settings.ToolColour = world.Settings.AntColour; break;
     default: break;
   }
-  btnPickAction_Click(world);
+  TogglePalette(world);
 }
 
-void btnPickAction_Click(World& world) {
+void TogglePalette(World& world) {
   ControlState& controls = world.Controls;
   const bool opening = controls.PickActionCaption == "v";
   controls.PickActionCaption = std::string(opening ? "^" : "v");
@@ -52,7 +52,7 @@ void btnPickAction_Click(World& world) {
   controls.ActionsHeight += sign * (4 * ToolButtonHeight + PaletteMargin);
 }
 
-void picTerreno_MouseMove(World& world, int button, float x, float y) {
+void TerrainPointerMoved(World& world, int button, float x, float y) {
   world.MouseX = x;
   world.MouseY = y;
   const WorldPoint p = CellAtPoint(world, x, y);
@@ -66,7 +66,7 @@ void picTerreno_MouseMove(World& world, int button, float x, float y) {
   }
 }
 
-void picTerreno_MouseDown(World& world, RandomSource& random, int button) {
+void TerrainPointerPressed(World& world, RandomSource& random, int button) {
   world.MouseHeld = true;
   world.MouseButton = static_cast<int16_t>(button);
   switch (world.Settings.CurrentTool) {
@@ -93,7 +93,7 @@ void picTerreno_MouseDown(World& world, RandomSource& random, int button) {
   }
 }
 
-void picTerreno_MouseUp(World& world, int button) {
+void TerrainPointerReleased(World& world, int button) {
   world.MouseButton = static_cast<int16_t>(button);
   world.MouseHeld = false;
 }

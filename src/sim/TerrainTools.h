@@ -12,18 +12,18 @@ class RandomSource;
 // Selects tool index (0 none, 1 food, 2 wall, 3 remove ants, 4 nest): the
 // tool's button swaps places with the current one, the pointer shape and the
 // tool colour follow, and the palette toggles.
-void btnAction_Click(World& world, int index);
+void SelectTool(World& world, int index);
 
 // Opens ("^") or closes ("v") the tool palette.
-void btnPickAction_Click(World& world);
+void TogglePalette(World& world);
 
 // Pointer tracking on every move; with the wall tool a left drag paints
 // bricks and a right drag erases them.
-void picTerreno_MouseMove(World& world, int button, float x, float y);
+void TerrainPointerMoved(World& world, int button, float x, float y);
 
 // A press acts once on the cursor cell with the current tool.
-void picTerreno_MouseDown(World& world, RandomSource& random, int button);
+void TerrainPointerPressed(World& world, RandomSource& random, int button);
 
-void picTerreno_MouseUp(World& world, int button);
+void TerrainPointerReleased(World& world, int button);
 
 }  // namespace keldor

@@ -52,7 +52,7 @@ class TickGuard {
 
 }  // namespace
 
-void Timer1_Timer(TickContext& context) {
+void RunTick(TickContext& context) {
   World& world = context.world;
   if (world.TickInProgress) return;
   TickGuard guard(world.TickInProgress);

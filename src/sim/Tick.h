@@ -33,6 +33,6 @@ struct TickContext {
 
 // Runs one tick. A call made while another tick is still running (from inside
 // the modal population-limit message) returns at once.
-void Timer1_Timer(TickContext& context);
+void RunTick(TickContext& context);
 
 }  // namespace keldor

@@ -20,15 +20,15 @@ TEST_F(OptionsFormTest, TextBoxesAreCorrectedAsTyped) {
   const std::pair<const char*, const char*> ants[] = {
       {"-7.9", "8"}, {"abc", "30"}, {"", "30"}, {"12.99", "12"}, {"99999999999", "32767"}};
   for (const auto& [typed, shown] : ants) {
-    form.txtNumAnts_Change(typed);
+    form.AntCountTyped(typed);
     EXPECT_EQ(form.NumAntsText(), shown) << typed;
   }
   EXPECT_EQ(s.AntsPerNest, 32767);
   // 30 x 30 grid: the nest radius is 2000/30/2*10 twips, 5.88 mm.
-  form.txtAntSize_Change("9");
+  form.AntSizeTyped("9");
   EXPECT_EQ(form.AntSizeText(), "5.9");
   EXPECT_DOUBLE_EQ(s.AntSizeMm, 5.9);
-  form.txtAntSize_Change("x");
+  form.AntSizeTyped("x");
   EXPECT_EQ(form.AntSizeText(), "x");
   EXPECT_DOUBLE_EQ(s.AntSizeMm, 3.0);
 
@@ -36,20 +36,20 @@ TEST_F(OptionsFormTest, TextBoxesAreCorrectedAsTyped) {
                                                                      {ColourBox::Green, "-4", "0"},
                                                                      {ColourBox::Blue, "12.7", "12"}};
   for (const auto& [box, typed, shown] : colours) {
-    form.txtAntsColour_Change(box, typed);
+    form.ColourTyped(box, typed);
     EXPECT_EQ(form.ColourText(box), shown) << typed;
   }
   EXPECT_EQ(s.AntColour, Rgb(255, 0, 12));
-  form.txtAntsColour_Change(ColourBox::Green, "g");  // unreadable: the settings colour falls back
+  form.ColourTyped(ColourBox::Green, "g");  // unreadable: the settings colour falls back
   EXPECT_EQ(s.AntColour, Rgb(150, 100, 70));
   EXPECT_EQ(form.PreviewColour(), Rgb(255, 0, 12));
-  form.txtGridDimX_Change("500");
+  form.GridSizeTyped("500");
   EXPECT_EQ(form.GridDimXText(), "181");
-  form.txtGridDimX_Change("0");
+  form.GridSizeTyped("0");
   EXPECT_EQ(form.GridDimXText(), "20");
-  form.txtGridDimX_Change("-3");
+  form.GridSizeTyped("-3");
   EXPECT_EQ(form.GridDimYText(), "1");
-  form.txtGridDimX_Change("");  // no number: OK leaves the grid alone
+  form.GridSizeTyped("");  // no number: OK leaves the grid alone
   form.ApplyOptions();  // the colour components change only on OK; the unreadable one stays
   EXPECT_EQ(s.AntColour, Rgb(255, 100, 12));
   EXPECT_EQ(w.PendingGridSize, 0);
@@ -59,15 +59,15 @@ TEST_F(OptionsFormTest, CancelKeepsOnlyWhatWasTakenOverOnChange) {
   {
     OptionsForm form(w);
     EXPECT_EQ(form.PreviewColour(), Rgb(150, 100, 70));
-    form.sliNestTrace_Change(40);
+    form.NestTraceMoved(40);
     EXPECT_EQ(w.NestTraceValue(), 40);  // the tick reads the slider while the form is open
-    form.txtNumAnts_Change("12");
-    form.txtAntSize_Change("2");
-    form.txtAntsColour_Change(ColourBox::Red, "10");
-    form.sliLifeSpan_Change(20);
-    form.sliFoodRate_Change(50);
-    form.sliFoodTrace_Change(77);
-    form.txtGridDimX_Change("40");
+    form.AntCountTyped("12");
+    form.AntSizeTyped("2");
+    form.ColourTyped(ColourBox::Red, "10");
+    form.LifeSpanMoved(20);
+    form.FoodRateMoved(50);
+    form.FoodTraceMoved(77);
+    form.GridSizeTyped("40");
   }  // closed without OK
   EXPECT_EQ(s.NestTraceSetting, 40);
   EXPECT_EQ(w.NestTraceValue(), 250);
@@ -85,11 +85,11 @@ TEST_F(OptionsFormTest, OkTakesTheRestAndTheEditedGridWaitsForTheNextNew) {
   s.CurrentTool = NestTool;
   {
     OptionsForm form(w);
-    form.txtAntsColour_Change(ColourBox::Blue, "200");
-    form.txtAntSize_Change("2");
-    form.sliLifeSpan_Change(50);
-    form.sliFoodRate_Change(0);
-    form.txtGridDimX_Change("21");
+    form.ColourTyped(ColourBox::Blue, "200");
+    form.AntSizeTyped("2");
+    form.LifeSpanMoved(50);
+    form.FoodRateMoved(0);
+    form.GridSizeTyped("21");
     EXPECT_EQ(form.GridDimYText(), "21");
     form.ApplyOptions();
   }

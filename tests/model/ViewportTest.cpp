@@ -12,7 +12,7 @@ namespace {
 
 World StartedWorld() {
   World w;
-  Form_Load(w);
+  StartUp(w);
   return w;
 }
 
@@ -32,22 +32,22 @@ TEST(ViewportTest, StartUpCentresZoomKeepsTheCentreWithinLimits) {
   EXPECT_EQ(w.View.HScroll1.Max, 20000 - 3360);
   EXPECT_DOUBLE_EQ(w.View.Terrain.Left, 10000 - 3360);
   EXPECT_FLOAT_EQ(w.ViewCentreY, 1000);
-  for (int i = 0; i < 20; ++i) cmdZoomOut_Click(w);
+  for (int i = 0; i < 20; ++i) ZoomOut(w);
   EXPECT_EQ(w.ZoomX, 2);
   EXPECT_EQ(w.View.TerrainFontSize, 1);
-  for (int i = 0; i < 40; ++i) cmdZoomIn_Click(w);
+  for (int i = 0; i < 40; ++i) ZoomIn(w);
   EXPECT_EQ(w.ZoomY, 42);
   EXPECT_EQ(w.View.TerrainFontSize, 8);
 
   World c = StartedWorld();
   NavigateFromMap(c, 800, 900);
-  cmdZoomIn_Click(c);
+  ZoomIn(c);
   EXPECT_EQ(c.View.HScroll1.Value, 800 * 11);
   EXPECT_EQ(c.View.VScroll1.Value, 900 * 11);
   EXPECT_NEAR(c.ViewCentreX, 800, 1e-3);
   // Near an edge the view stays against it.
   NavigateFromMap(c, 10, 10);
-  cmdZoomOut_Click(c);
+  ZoomOut(c);
   EXPECT_EQ(c.View.VScroll1.Value, c.View.VScroll1.Min);
   EXPECT_DOUBLE_EQ(c.View.Terrain.Left, 0);
 }
@@ -56,7 +56,7 @@ TEST(ViewportTest, MapPointingClampsToTheWorldAndTo32767) {
   World w = StartedWorld();
   NavigateFromMap(w, 1999, 1999);
   EXPECT_EQ(w.View.HScroll1.Value, w.View.HScroll1.Max);
-  for (int i = 0; i < 20; ++i) cmdZoomIn_Click(w);  // zoom 30: 60000 units wide
+  for (int i = 0; i < 20; ++i) ZoomIn(w);  // zoom 30: 60000 units wide
   EXPECT_EQ(w.View.HScroll1.Max, 32767);
   NavigateFromMap(w, 1990, 1990);
   EXPECT_EQ(w.View.HScroll1.Value, 32767);
@@ -79,13 +79,13 @@ TEST(ViewportTest, ResizeKeepsTheCentreOrClampsToTheEdge) {
 TEST(WindowLayoutTest, SmallWindowSnapsBackToTheMinimum) {
   testing::TestWorld t;
   WindowLayout layout;
-  Form_Resize(t.world, layout, 3000, 2000);
+  ResizeWindow(t.world, layout, 3000, 2000);
   EXPECT_EQ(layout.Width, MinWindowWidth);
   EXPECT_EQ(layout.Height, MinWindowHeight);
-  Form_Resize(t.world, layout, 12000, 2000);
+  ResizeWindow(t.world, layout, 12000, 2000);
   EXPECT_EQ(layout.Width, 12000);
   EXPECT_EQ(layout.Height, MinWindowHeight);
-  Form_Resize(t.world, layout, 100, 100, true);  // minimised: nothing moves
+  ResizeWindow(t.world, layout, 100, 100, true);  // minimised: nothing moves
   EXPECT_EQ(layout.Width, 12000);
   EXPECT_EQ(t.world.View.Terrain.Width, layout.Terrain.Width);
   EXPECT_EQ(layout.HScroll.Top, layout.Terrain.Top + layout.Terrain.Height);
@@ -96,31 +96,31 @@ TEST(WindowLayoutTest, HidingPanelsGrowsTheViewAroundTheSameCentre) {
   testing::TestWorld t;
   World& w = t.world;
   WindowLayout layout;
-  Form_Resize(w, layout, 12000, 9000);
-  cmdZoomIn_Click(w);
-  cmdZoomIn_Click(w);
+  ResizeWindow(w, layout, 12000, 9000);
+  ZoomIn(w);
+  ZoomIn(w);
   NavigateFromMap(w, 1100, 900);
   const float cx = w.ViewCentreX;
   const float cy = w.ViewCentreY;
   const TwipRect before = layout.Terrain;
 
-  btnInfo_Click(w, layout);
+  CloseInfoPanel(w, layout);
   EXPECT_FALSE(w.Controls.InfoVisible);
   EXPECT_EQ(layout.Terrain.Width, before.Width + 2175 + 90);
   EXPECT_NEAR(w.ViewCentreX, cx, 1.0 / w.ZoomX);
-  btnQuick_Click(w, layout, 1);
+  QuickToggle(w, layout, 1);
   EXPECT_FALSE(w.Controls.ButtonBarVisible);
   EXPECT_EQ(layout.Terrain.Top, 0);
   EXPECT_EQ(layout.Terrain.Height, before.Height + 555 - 90);
   EXPECT_NEAR(w.ViewCentreY, cy, 1.0 / w.ZoomY);
-  mnuButtons_Click(w, layout);
-  mnuInfo_Click(w, layout);
+  ToggleButtonBar(w, layout);
+  ToggleInfoPanel(w, layout);
   EXPECT_EQ(layout.Terrain.Width, before.Width);
   EXPECT_EQ(layout.Terrain.Height, before.Height);
 
   // Growing past the world clamps the view to its edge.
   NavigateFromMap(w, 0, 0);
-  Form_Resize(w, layout, 16000, 12000);
+  ResizeWindow(w, layout, 16000, 12000);
   EXPECT_EQ(w.View.HScroll1.Value, w.View.HScroll1.Min);
   EXPECT_NEAR(w.View.Terrain.Left, 0, 0.5);  // the scroll value is a whole number
 }

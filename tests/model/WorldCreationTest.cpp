@@ -73,14 +73,14 @@ TEST(WorldCreationTest, GridTextRulesAndFoodRateExtremes) {
   EXPECT_EQ(TestWorld(1, {"1", "1", "3", 100}).world.Cells(1, 1).AntCount, 30);  // a one-cell world holds its nest
   // A text that is not a number keeps the grid of the last New.
   TestWorld t(1, {"12", "12", "3", 100});
-  mnuFileNew_Click(t.world, t.random, {"abc", "abc", "3", 100});
+  NewWorld(t.world, t.random, {"abc", "abc", "3", 100});
   EXPECT_EQ(t.world.Cells.Columns(), 14);
 
   t.world.Settings.FoodRate = 0;
-  mnuFileNew_Click(t.world, t.random, {});
+  NewWorld(t.world, t.random, {});
   EXPECT_EQ(t.world.FoodPileCount(), 0);
   t.world.Settings.FoodRate = 100;
-  mnuFileNew_Click(t.world, t.random, {});
+  NewWorld(t.world, t.random, {});
   EXPECT_EQ(t.world.FoodPileCount(), 899);
 }
 
@@ -131,26 +131,26 @@ TEST(SlotListTest, RemoveMovesTheLastItemInAndKeepsOneSpare) {
 
 TEST(CommandsTest, PlayPauseAndDisplayToggles) {
   World before;
-  Form_Load(before);
-  btnOdor_Click(before);  // no world yet: nothing to show
+  StartUp(before);
+  ToggleOdor(before);  // no world yet: nothing to show
   EXPECT_EQ(before.ShowOdor, 0);
 
   TestWorld t;
   World& w = t.world;
   w.Controls.PickActionCaption = "^";
-  btnStop_Click(w);
+  TogglePlayPause(w);
   EXPECT_TRUE(w.Running);
   EXPECT_EQ(w.Controls.StopImage, PlayPauseImage::Pause);
   EXPECT_EQ(w.Controls.PickActionCaption, "v");
-  btnStop_Click(w);
+  TogglePlayPause(w);
   EXPECT_EQ(w.Controls.StopToolTip, "Play");
-  btnOdor_Click(w);
+  ToggleOdor(w);
   EXPECT_EQ(w.ShowOdor, 1);
   EXPECT_EQ(w.Controls.OdorToolTip, "Hide Odor Traces");
-  btnAnts_Click(w);
+  ToggleAnts(w);
   EXPECT_EQ(w.ShowAnts, 0);
   // New shows the ants again but leaves the ants tool tip as it was.
-  mnuFileNew_Click(w, t.random, {});
+  NewWorld(w, t.random, {});
   EXPECT_EQ(w.ShowAnts, 1);
   EXPECT_EQ(w.Controls.AntsToolTip, "Show ants");
 }

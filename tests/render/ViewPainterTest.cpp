@@ -111,7 +111,7 @@ TEST_F(FrameTest, TickDrawsTheTerrainLayersInPhaseOrder) {
   for (int16_t ants : {1, 0}) {
     ForgetCalls();
     world.ShowAnts = ants;
-    Timer1_Timer(context);
+    RunTick(context);
     std::vector<Layer> order;
     for (const CanvasCall& c : terrain.Drawing()) {
       const Layer layer = LayerOf(c);
@@ -189,11 +189,11 @@ TEST_F(FrameTest, RealTicksResetABittenAntsColourOnlyOnceDrawnAndLeaveThePenAtRe
   Nest& nest = world.Nests[0];
   nest.Ants[1].Colour = Red;
   world.ShowAnts = 0;
-  Timer1_Timer(context);
+  RunTick(context);
   EXPECT_EQ(nest.Ants[1].Colour, Red) << "a hidden ant keeps its bite colour";
   world.ShowAnts = 1;
   ForgetCalls();
-  Timer1_Timer(context);
+  RunTick(context);
   EXPECT_EQ(nest.Ants[1].Colour, nest.Colour);
   const auto circles = terrain.Of(CanvasOp::Circle);
   EXPECT_TRUE(std::any_of(circles.begin(), circles.end(), [](const CanvasCall& c) { return c.Pen.FillColor == Red; }))

@@ -54,7 +54,7 @@ TEST(Soak, CrowdedMultiNestWorldKeepsItsBookkeeping) {
     SCOPED_TRACE(tick);
     world.Running = true;  // resumes after the limit message
     rig.test.clock.Advance(0.075);
-    Timer1_Timer(context);
+    RunTick(context);
     ExpectInvariants(world);
     ASSERT_FALSE(painter.OutOfRange);
   }

@@ -27,7 +27,7 @@ class RecordingMessageBox : public MessageBox {
     if (Reenter == nullptr) return;
     const std::string before = Reenter->world.Controls.PopulationCaption;
     Reenter->world.Controls.PopulationCaption = "marker";
-    Timer1_Timer(*Reenter);
+    RunTick(*Reenter);
     NestedTickStarted = Reenter->world.Controls.PopulationCaption != "marker";
     Reenter->world.Controls.PopulationCaption = before;
   }
@@ -43,7 +43,7 @@ struct TickRig {
   World& world() { return test.world; }
   void Tick() {
     test.clock.Advance(0.075);
-    Timer1_Timer(context);
+    RunTick(context);
   }
   void AddNestAt(int x, int y) {
     world().CursorCellX = static_cast<int16_t>(x);

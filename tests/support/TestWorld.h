@@ -14,8 +14,8 @@ namespace keldor::testing {
 
 struct TestWorld {
   explicit TestWorld(uint64_t seed = 1, const NewWorldInputs& inputs = {}) : clock(seed), random(clock) {
-    Form_Load(world);
-    mnuFileNew_Click(world, random, inputs);
+    StartUp(world);
+    NewWorld(world, random, inputs);
   }
 
   VirtualClock clock;

@@ -18,10 +18,10 @@
 #include "model/SystemInfo.h"
 #include "platform/NoRegistry.h"
 #include "ui/PictureBox.h"
-#include "ui/frmAbout.h"
-#include "ui/frmKeldor.h"
-#include "ui/frmOptions.h"
-#include "ui/frmSplash.h"
+#include "ui/AboutBox.h"
+#include "ui/MainWindow.h"
+#include "ui/OptionsDialog.h"
+#include "ui/SplashScreen.h"
 
 namespace keldor {
 namespace {
@@ -92,7 +92,7 @@ class KeldorUiTest : public QObject {
  private slots:
   void init() {
     clock_ = std::make_unique<VirtualClock>(7);
-    window_ = std::make_unique<frmKeldor>(messages_, *clock_);
+    window_ = std::make_unique<MainWindow>(messages_, *clock_);
     window_->show();
     QVERIFY(QTest::qWaitForWindowExposed(window_.get()));
   }
@@ -239,7 +239,7 @@ class KeldorUiTest : public QObject {
     int ticksDuringMessage = -1;
     messages_.whileShown = [&] {
       const int before = window_->TicksRun();
-      QTest::qWait(400);  // Timer1 fires several times while the message is open
+      QTest::qWait(400);  // the tick timer fires several times while the message is open
       ticksDuringMessage = window_->TicksRun() - before;
     };
     QTRY_VERIFY(!messages_.shown.empty());
@@ -356,7 +356,7 @@ class KeldorUiTest : public QObject {
   }
 
   void destroyingTheDialogWhileABoxHasTheFocus() {
-    auto* dialog = new frmOptions(window_->TheWorld(), W());
+    auto* dialog = new OptionsDialog(window_->TheWorld(), W());
     dialog->show();
     dialog->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(dialog));
@@ -381,7 +381,7 @@ class KeldorUiTest : public QObject {
   void splashHandsOverAtTheFirstKeyOrClick() {
     for (bool key : {true, false}) {
       int handedOver = 0;
-      QPointer<frmSplash> splash = new frmSplash([&] { ++handedOver; });
+      QPointer<SplashScreen> splash = new SplashScreen([&] { ++handedOver; });
       splash->show();
       QVERIFY(QTest::qWaitForWindowExposed(splash));
       QCOMPARE(Child<QLabel>(splash, "Label2")->text(), QString("https://keldor.example.org"));
@@ -396,7 +396,7 @@ class KeldorUiTest : public QObject {
     NoRegistry registry;
     NoPrograms programs;
     RecordingMessageBox messages;
-    frmAbout about(registry, programs, messages);
+    AboutBox about(registry, programs, messages);
     QCOMPARE(about.windowTitle(), QString("About Keldor"));
     about.show();
     QVERIFY(QTest::qWaitForWindowExposed(&about));
@@ -437,7 +437,7 @@ class KeldorUiTest : public QObject {
   void OpenOptions(std::function<void(QWidget*)> answer) {
     bool answered = false;
     AnswerNextModal([&](QWidget* dialog) {
-      QVERIFY(qobject_cast<frmOptions*>(dialog) != nullptr);
+      QVERIFY(qobject_cast<OptionsDialog*>(dialog) != nullptr);
       dialog->activateWindow();
       QVERIFY(QTest::qWaitForWindowActive(dialog));
       answer(dialog);
@@ -450,7 +450,7 @@ class KeldorUiTest : public QObject {
 
   RecordingMessageBox messages_;
   std::unique_ptr<VirtualClock> clock_;
-  std::unique_ptr<frmKeldor> window_;
+  std::unique_ptr<MainWindow> window_;
 };
 
 }  // namespace keldor

@@ -9,7 +9,7 @@ void RunTicks(const TickLoop& loop, int64_t count, TickPainter& painter, TickPai
               const std::function<void(int64_t)>& afterTick) {
   for (int64_t tick = 1; tick <= count; ++tick) {
     TickContext context{loop.world, loop.random, tick == count ? lastPainter : painter, loop.messages};
-    Timer1_Timer(context);
+    RunTick(context);
     if (loop.clock != nullptr) loop.clock->Advance(TickPeriodSeconds);
     afterTick(tick);
   }

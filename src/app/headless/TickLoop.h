@@ -15,7 +15,7 @@ class TickPainter;
 
 namespace keldor::headless {
 
-// Timer1's interval, in seconds.
+// The tick timer's interval, in seconds.
 inline constexpr double TickPeriodSeconds = 0.075;
 
 struct TickLoop {

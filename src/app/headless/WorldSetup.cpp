@@ -46,24 +46,24 @@ std::optional<std::string> ApplySettings(World& world, const WorldOptions& optio
 
 void ApplyView(World& world, const ViewOptions& view) {
   if (view.Zoom) {
-    while (world.ZoomX < *view.Zoom) cmdZoomIn_Click(world);
-    while (world.ZoomX > *view.Zoom) cmdZoomOut_Click(world);
+    while (world.ZoomX < *view.Zoom) ZoomIn(world);
+    while (world.ZoomX > *view.Zoom) ZoomOut(world);
   }
-  if (view.Odor) btnOdor_Click(world);
-  if (view.HideAnts) btnAnts_Click(world);
+  if (view.Odor) ToggleOdor(world);
+  if (view.HideAnts) ToggleAnts(world);
 }
 
 }  // namespace
 
 std::optional<std::string> BuildWorld(World& world, RandomSource& random, const HeadlessOptions& options) {
-  Form_Load(world);
+  StartUp(world);
   ResizeTerrainView(world, options.View.Width * TwipsPerPixel, options.View.Height * TwipsPerPixel);
   NewWorldInputs inputs;
   if (auto problem = ApplySettings(world, options.World, inputs)) return problem;
-  mnuFileNew_Click(world, random, inputs);
+  NewWorld(world, random, inputs);
   if (auto problem = ApplyScenario(world, random, options.Scenario)) return problem;
   ApplyView(world, options.View);
-  if (!options.Paused) btnStop_Click(world);
+  if (!options.Paused) TogglePlayPause(world);
   return std::nullopt;
 }
 

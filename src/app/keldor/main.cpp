@@ -7,8 +7,8 @@
 #include "platform/SystemClock.h"
 #include "ui/AppTexts.h"
 #include "ui/ButtonPictures.h"
-#include "ui/frmKeldor.h"
-#include "ui/frmSplash.h"
+#include "ui/MainWindow.h"
+#include "ui/SplashScreen.h"
 
 int main(int argc, char* argv[]) {
   QApplication app(argc, argv);
@@ -17,9 +17,9 @@ int main(int argc, char* argv[]) {
 
   keldor::SystemClock clock;
   keldor::QtMessageBox messages;
-  std::unique_ptr<keldor::frmKeldor> main;
-  auto* splash = new keldor::frmSplash([&] {
-    main = std::make_unique<keldor::frmKeldor>(messages, clock);
+  std::unique_ptr<keldor::MainWindow> main;
+  auto* splash = new keldor::SplashScreen([&] {
+    main = std::make_unique<keldor::MainWindow>(messages, clock);
     main->show();
   });
   splash->show();

@@ -11,7 +11,7 @@
 #include "model/Random.h"
 #include "platform/QtMessageBox.h"
 #include "ui/AppTexts.h"
-#include "ui/frmKeldor.h"
+#include "ui/MainWindow.h"
 
 int main(int argc, char* argv[]) {
   QApplication app(argc, argv);
@@ -25,12 +25,12 @@ int main(int argc, char* argv[]) {
 
   keldor::VirtualClock clock(seed);
   keldor::QtMessageBox messages;
-  keldor::frmKeldor window(messages, clock);
+  keldor::MainWindow window(messages, clock);
   window.show();
   for (const char* button : {"btnStart", "btnStop", "btnOdor"}) window.findChild<QPushButton*>(button)->click();
   for (int i = 0; i < ticks; ++i) {
-    clock.Advance(keldor::Timer1IntervalMs / 1000.0);
-    window.Timer1_Timer();
+    clock.Advance(keldor::TickIntervalMs / 1000.0);
+    window.AdvanceTick();
   }
   QApplication::processEvents();
   if (!window.grab().save(argv[1])) {

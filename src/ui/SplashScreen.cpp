@@ -1,4 +1,4 @@
-#include "ui/frmSplash.h"
+#include "ui/SplashScreen.h"
 
 #include <QLabel>
 #include <QPainter>
@@ -8,7 +8,7 @@
 
 namespace keldor {
 
-frmSplash::frmSplash(std::function<void()> showMain, QWidget* parent)
+SplashScreen::SplashScreen(std::function<void()> showMain, QWidget* parent)
     : QWidget(parent, Qt::SplashScreen | Qt::FramelessWindowHint), showMain_(std::move(showMain)) {
   setObjectName("frmSplash");
   setWindowTitle(ApplicationTitle);
@@ -22,12 +22,12 @@ frmSplash::frmSplash(std::function<void()> showMain, QWidget* parent)
   label2->setObjectName("Label2");
   label2->setGeometry(20, 222, 380, 22);
   for (QLabel* label : {label1, label2}) label->setStyleSheet("color: white;");
-  timer1_.setInterval(SplashTimerIntervalMs);
-  connect(&timer1_, &QTimer::timeout, this, &frmSplash::Timer1_Timer);
-  timer1_.start();
+  timer_.setInterval(SplashTimerIntervalMs);
+  connect(&timer_, &QTimer::timeout, this, &SplashScreen::CountTick);
+  timer_.start();
 }
 
-void frmSplash::paintEvent(QPaintEvent*) {
+void SplashScreen::paintEvent(QPaintEvent*) {
   QPainter p(this);
   p.setRenderHint(QPainter::Antialiasing);
   p.fillRect(rect(), QColor(70, 55, 40));
@@ -45,18 +45,18 @@ void frmSplash::paintEvent(QPaintEvent*) {
   p.drawText(QRect(160, 105, 250, 30), Qt::AlignLeft | Qt::AlignVCenter, "Ant colony simulation");
 }
 
-void frmSplash::Timer1_Timer() {
-  if (counter_.Tick()) Form_Click();
+void SplashScreen::CountTick() {
+  if (counter_.Tick()) HandOver();
 }
 
-void frmSplash::mousePressEvent(QMouseEvent*) { Form_Click(); }
+void SplashScreen::mousePressEvent(QMouseEvent*) { HandOver(); }
 
-void frmSplash::keyPressEvent(QKeyEvent*) { Form_Click(); }
+void SplashScreen::keyPressEvent(QKeyEvent*) { HandOver(); }
 
-void frmSplash::Form_Click() {
+void SplashScreen::HandOver() {
   if (handedOver_) return;
   handedOver_ = true;
-  timer1_.stop();
+  timer_.stop();
   showMain_();
   close();
 }

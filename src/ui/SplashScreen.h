@@ -11,12 +11,12 @@
 
 namespace keldor {
 
-class frmSplash : public QWidget {
+class SplashScreen : public QWidget {
   Q_OBJECT
 
  public:
   // showMain shows the main window (not modal); it runs once.
-  explicit frmSplash(std::function<void()> showMain, QWidget* parent = nullptr);
+  explicit SplashScreen(std::function<void()> showMain, QWidget* parent = nullptr);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -24,12 +24,12 @@ class frmSplash : public QWidget {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
-  void Timer1_Timer();
-  void Form_Click();
+  void CountTick();
+  void HandOver();
 
   std::function<void()> showMain_;
   SplashCounter counter_;
-  QTimer timer1_;
+  QTimer timer_;
   bool handedOver_ = false;
 };
 

@@ -1,4 +1,4 @@
-#include "ui/frmAbout.h"
+#include "ui/AboutBox.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -11,7 +11,7 @@
 
 namespace keldor {
 
-frmAbout::frmAbout(Registry& registry, ProgramStarter& starter, MessageBox& messages, QWidget* parent)
+AboutBox::AboutBox(Registry& registry, ProgramStarter& starter, MessageBox& messages, QWidget* parent)
     : QDialog(parent), registry_(registry), starter_(starter), messages_(messages) {
   setObjectName("frmAbout");
   setWindowTitle(QString("About ") + ApplicationTitle);

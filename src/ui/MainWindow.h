@@ -1,7 +1,7 @@
 // The main window "Keldor": menus, the button bar with the drop-down tool
 // palette, the terrain view with its scroll bars and the information panel
 // with the mini-map and the population. Every handler calls the toolkit-free
-// command and then shows what the world's ControlState says; Timer1 runs the
+// command and then shows what the world's ControlState says; the tick timer runs the
 // tick every 75 ms and shows the frame it drew.
 #pragma once
 
@@ -29,26 +29,26 @@ class MessageBox;
 class PictureBox;
 class Registry;
 class ProgramStarter;
-class frmOptions;
+class OptionsDialog;
 
-inline constexpr int Timer1IntervalMs = 75;
+inline constexpr int TickIntervalMs = 75;
 
-class frmKeldor : public QMainWindow {
+class MainWindow : public QMainWindow {
   Q_OBJECT
 
  public:
   // messages shows the population-limit and System Info messages; clock seeds
   // the random source.
-  frmKeldor(MessageBox& messages, Clock& clock, QWidget* parent = nullptr);
-  ~frmKeldor() override;
+  MainWindow(MessageBox& messages, Clock& clock, QWidget* parent = nullptr);
+  ~MainWindow() override;
 
   World& TheWorld() { return world_; }
   const WindowLayout& Layout() const { return layout_; }
   TwipScale Scale() const { return scale_; }
   // Ticks run to completion so far.
   int TicksRun() const { return ticksRun_; }
-  // Runs one tick now, as Timer1 does.
-  void Timer1_Timer();
+  // Runs one tick now, as the tick timer does.
+  void AdvanceTick();
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
@@ -65,9 +65,9 @@ class frmKeldor : public QMainWindow {
   // Runs a command on the world, then shows the controls.
   template <typename Command>
   void Run(Command command);
-  void mnuFileNew_Click();
-  void mnuOptions_Click();
-  void mnuHelpAbout_Click();
+  void OnFileNew();
+  void OnOptions();
+  void OnAbout();
   void TerrainMouse(int kind, int buttons, QPointF pixel);
   void MapMouse(bool release, int buttons, QPointF pixel);
   void ScrollBarMoved();
@@ -88,11 +88,11 @@ class frmKeldor : public QMainWindow {
   std::unique_ptr<Registry> registry_;
   std::unique_ptr<ProgramStarter> starter_;
   ViewCanvases canvases_;
-  QTimer timer1_;
+  QTimer timer_;
   bool inTick_ = false;
   bool showing_ = false;
   int ticksRun_ = 0;
-  QPointer<frmOptions> options_;
+  QPointer<OptionsDialog> options_;
 
   QAction* mnuButtons_ = nullptr;
   QAction* mnuInfo_ = nullptr;

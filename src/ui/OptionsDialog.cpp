@@ -1,4 +1,4 @@
-#include "ui/frmOptions.h"
+#include "ui/OptionsDialog.h"
 
 #include <QFrame>
 #include <QGridLayout>
@@ -40,7 +40,7 @@ QWidget* WithEndLabels(QSlider* slider, const char* minText, const char* maxText
 
 }  // namespace
 
-frmOptions::frmOptions(World& world, QWidget* parent) : QDialog(parent), form_(world) {
+OptionsDialog::OptionsDialog(World& world, QWidget* parent) : QDialog(parent), form_(world) {
   setObjectName("frmOptions");
   setWindowTitle("Options");
   setModal(true);
@@ -50,11 +50,11 @@ frmOptions::frmOptions(World& world, QWidget* parent) : QDialog(parent), form_(w
   auto* nest = new QGridLayout(frame1);
   nest->addWidget(new QLabel("Starting Population:"), 0, 0);
   nest->addWidget(AddTextBox("txtNumAnts", [this]() -> const std::string& { return form_.NumAntsText(); },
-                             [this](const std::string& t) { form_.txtNumAnts_Change(t); }),
+                             [this](const std::string& t) { form_.AntCountTyped(t); }),
                   0, 1);
   nest->addWidget(new QLabel("Workers Lenght:"), 1, 0);
   nest->addWidget(AddTextBox("txtAntSize", [this]() -> const std::string& { return form_.AntSizeText(); },
-                             [this](const std::string& t) { form_.txtAntSize_Change(t); }),
+                             [this](const std::string& t) { form_.AntSizeTyped(t); }),
                   1, 1);
   nest->addWidget(new QLabel("mm"), 1, 2);
 
@@ -67,7 +67,7 @@ frmOptions::frmOptions(World& world, QWidget* parent) : QDialog(parent), form_(w
     colourGrid->addWidget(new QLabel(heads[i]), 0, i, Qt::AlignHCenter);
     QLineEdit* edit = AddTextBox(
         names[i], [this, box]() -> const std::string& { return form_.ColourText(box); },
-        [this, box](const std::string& t) { form_.txtAntsColour_Change(box, t); });
+        [this, box](const std::string& t) { form_.ColourTyped(box, t); });
     edit->setMaximumWidth(48);
     colourGrid->addWidget(edit, 1, i);
   }
@@ -82,7 +82,7 @@ frmOptions::frmOptions(World& world, QWidget* parent) : QDialog(parent), form_(w
   auto* lifeSpan = new QGroupBox("Life span");
   auto* lifeLayout = new QVBoxLayout(lifeSpan);
   lifeLayout->addWidget(WithEndLabels(
-      AddSlider("sliLifeSpan", Qt::Vertical, LifeSpanRange, form_.LifeSpan(), &OptionsForm::sliLifeSpan_Change),
+      AddSlider("sliLifeSpan", Qt::Vertical, LifeSpanRange, form_.LifeSpan(), &OptionsForm::LifeSpanMoved),
       "Ephemeral", "Immortal"));
   nest->addWidget(lifeSpan, 0, 3, 3, 1);
 
@@ -90,7 +90,7 @@ frmOptions::frmOptions(World& world, QWidget* parent) : QDialog(parent), form_(w
   grid->addWidget(new QLabel("Grid Dimentions    :"));
   grid->addWidget(new QLabel("X"));
   grid->addWidget(AddTextBox("txtGridDimX", [this]() -> const std::string& { return form_.GridDimXText(); },
-                             [this](const std::string& t) { form_.txtGridDimX_Change(t); }));
+                             [this](const std::string& t) { form_.GridSizeTyped(t); }));
   grid->addWidget(new QLabel("Y"));
   QLineEdit* gridY = AddTextBox("txtGridDimY", [this]() -> const std::string& { return form_.GridDimYText(); }, {});
   gridY->setReadOnly(true);  // the grid is square: the height follows the width
@@ -100,29 +100,29 @@ frmOptions::frmOptions(World& world, QWidget* parent) : QDialog(parent), form_(w
   sliders->addWidget(new QLabel("Automatic Food Generation"), 0, 0);
   sliders->addWidget(
       WithEndLabels(AddSlider("sliFoodRate", Qt::Horizontal, FoodRateRange, form_.FoodRate(),
-                              &OptionsForm::sliFoodRate_Change),
+                              &OptionsForm::FoodRateMoved),
                     "None", "Abundant"),
       0, 1);
   sliders->addWidget(new QLabel("Food Scent"), 1, 0);
   sliders->addWidget(
       WithEndLabels(AddSlider("sliFoodTrace", Qt::Horizontal, TraceRange, form_.FoodTrace(),
-                              &OptionsForm::sliFoodTrace_Change),
+                              &OptionsForm::FoodTraceMoved),
                     "Weak", "Strong"),
       1, 1);
   sliders->addWidget(new QLabel("Nest Scent"), 2, 0);
   sliders->addWidget(
       WithEndLabels(AddSlider("sliNestTrace", Qt::Horizontal, TraceRange, form_.NestTrace(),
-                              &OptionsForm::sliNestTrace_Change),
+                              &OptionsForm::NestTraceMoved),
                     "Weak", "Strong"),
       2, 1);
 
   auto* ok = new QPushButton("&OK");
   ok->setObjectName("btnAcept");
   ok->setDefault(true);
-  connect(ok, &QPushButton::clicked, this, &frmOptions::accept);
+  connect(ok, &QPushButton::clicked, this, &OptionsDialog::accept);
   auto* cancel = new QPushButton("&Cancel");
   cancel->setObjectName("btnCancel");
-  connect(cancel, &QPushButton::clicked, this, &frmOptions::reject);
+  connect(cancel, &QPushButton::clicked, this, &OptionsDialog::reject);
   auto* buttons = new QHBoxLayout;
   buttons->addStretch();
   buttons->addWidget(ok);
@@ -136,11 +136,11 @@ frmOptions::frmOptions(World& world, QWidget* parent) : QDialog(parent), form_(w
   ShowFields();
 }
 
-frmOptions::~frmOptions() {
+OptionsDialog::~OptionsDialog() {
   for (const TextBox& box : boxes_) box.edit->disconnect(this);
 }
 
-QLineEdit* frmOptions::AddTextBox(const char* name, std::function<const std::string&()> text,
+QLineEdit* OptionsDialog::AddTextBox(const char* name, std::function<const std::string&()> text,
                                   std::function<void(const std::string&)> changed) {
   auto* edit = new QLineEdit;
   edit->setObjectName(name);
@@ -155,7 +155,7 @@ QLineEdit* frmOptions::AddTextBox(const char* name, std::function<const std::str
   return edit;
 }
 
-QSlider* frmOptions::AddSlider(const char* name, Qt::Orientation orientation, SliderRange range, int value,
+QSlider* OptionsDialog::AddSlider(const char* name, Qt::Orientation orientation, SliderRange range, int value,
                                void (OptionsForm::*changed)(int)) {
   auto* slider = new QSlider(orientation);
   slider->setObjectName(name);
@@ -165,18 +165,18 @@ QSlider* frmOptions::AddSlider(const char* name, Qt::Orientation orientation, Sl
   return slider;
 }
 
-void frmOptions::TakeOver(const TextBox& box) {
+void OptionsDialog::TakeOver(const TextBox& box) {
   const std::string typed = box.edit->text().toStdString();
   if (typed != box.text()) box.changed(typed);
 }
 
-void frmOptions::TakeOverAll() {
+void OptionsDialog::TakeOverAll() {
   for (const TextBox& box : boxes_) {
     if (box.changed) TakeOver(box);
   }
 }
 
-void frmOptions::ShowFields() {
+void OptionsDialog::ShowFields() {
   for (const TextBox& box : boxes_) {
     const QString text = QString::fromStdString(box.text());
     if (box.edit->text() != text) {
@@ -189,13 +189,13 @@ void frmOptions::ShowFields() {
   picAntColor_->setPalette(palette);
 }
 
-void frmOptions::accept() {
+void OptionsDialog::accept() {
   TakeOverAll();
   form_.ApplyOptions();
   QDialog::accept();
 }
 
-void frmOptions::reject() {
+void OptionsDialog::reject() {
   TakeOverAll();
   QDialog::reject();
 }

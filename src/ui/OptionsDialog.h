@@ -18,14 +18,14 @@ namespace keldor {
 
 struct World;
 
-class frmOptions : public QDialog {
+class OptionsDialog : public QDialog {
   Q_OBJECT
 
  public:
-  frmOptions(World& world, QWidget* parent = nullptr);
+  OptionsDialog(World& world, QWidget* parent = nullptr);
   // A box that still has the focus loses it while the widgets go: that late
   // "editing finished" must not reach the form, which is already gone.
-  ~frmOptions() override;
+  ~OptionsDialog() override;
 
   const OptionsForm& Form() const { return form_; }
 

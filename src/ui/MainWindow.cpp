@@ -1,4 +1,4 @@
-#include "ui/frmKeldor.h"
+#include "ui/MainWindow.h"
 
 #include <QCloseEvent>
 #include <QFrame>
@@ -20,8 +20,8 @@
 #include "ui/AppTexts.h"
 #include "ui/ButtonPictures.h"
 #include "ui/PictureBox.h"
-#include "ui/frmAbout.h"
-#include "ui/frmOptions.h"
+#include "ui/AboutBox.h"
+#include "ui/OptionsDialog.h"
 
 namespace keldor {
 
@@ -45,7 +45,7 @@ void SetToolTip(QWidget* widget, const std::string& text) {
 
 }  // namespace
 
-frmKeldor::frmKeldor(MessageBox& messages, Clock& clock, QWidget* parent)
+MainWindow::MainWindow(MessageBox& messages, Clock& clock, QWidget* parent)
     : QMainWindow(parent),
       messages_(messages),
       random_(clock),
@@ -64,20 +64,20 @@ frmKeldor::frmKeldor(MessageBox& messages, Clock& clock, QWidget* parent)
   BuildPalette(central);
   BuildInfoPanel(central);
 
-  Form_Load(world_);
-  timer1_.setInterval(Timer1IntervalMs);
-  connect(&timer1_, &QTimer::timeout, this, &frmKeldor::Timer1_Timer);
+  StartUp(world_);
+  timer_.setInterval(TickIntervalMs);
+  connect(&timer_, &QTimer::timeout, this, &MainWindow::AdvanceTick);
   resize(scale_.Pixels(InitialWidth - ClassicFrameWidth),
          scale_.Pixels(InitialHeight - ClassicFrameHeight) + menuBar()->sizeHint().height());
   layout()->activate();  // sizes the client area before the first show
   DoResize();
 }
 
-frmKeldor::~frmKeldor() = default;
+MainWindow::~MainWindow() = default;
 
-void frmKeldor::BuildMenus() {
+void MainWindow::BuildMenus() {
   QMenu* file = menuBar()->addMenu("&File");
-  QAction* mnuFileNew = file->addAction("&New", this, [this] { Run([this] { mnuFileNew_Click(); }); });
+  QAction* mnuFileNew = file->addAction("&New", this, [this] { Run([this] { OnFileNew(); }); });
   mnuFileNew->setObjectName("mnuFileNew");
   QAction* mnuFileExit = file->addAction("&Exit", this, [this] { close(); });
   mnuFileExit->setObjectName("mnuFileExit");
@@ -85,21 +85,21 @@ void frmKeldor::BuildMenus() {
   QMenu* tools = menuBar()->addMenu("&Tools");
   QMenu* view = tools->addMenu("&View");
   view->menuAction()->setObjectName("mnuView");
-  mnuButtons_ = view->addAction("&Buttons", this, [this] { Run([this] { mnuButtons_Click(world_, layout_); }); });
+  mnuButtons_ = view->addAction("&Buttons", this, [this] { Run([this] { ToggleButtonBar(world_, layout_); }); });
   mnuButtons_->setObjectName("mnuButtons");
   mnuButtons_->setCheckable(true);
-  mnuInfo_ = view->addAction("&Info", this, [this] { Run([this] { mnuInfo_Click(world_, layout_); }); });
+  mnuInfo_ = view->addAction("&Info", this, [this] { Run([this] { ToggleInfoPanel(world_, layout_); }); });
   mnuInfo_->setObjectName("mnuInfo");
   mnuInfo_->setCheckable(true);
-  QAction* mnuOptions = tools->addAction("&Options...", this, [this] { mnuOptions_Click(); });
+  QAction* mnuOptions = tools->addAction("&Options...", this, [this] { OnOptions(); });
   mnuOptions->setObjectName("mnuOptions");
 
   QMenu* help = menuBar()->addMenu("&Help");
-  QAction* mnuHelpAbout = help->addAction("&About...", this, [this] { mnuHelpAbout_Click(); });
+  QAction* mnuHelpAbout = help->addAction("&About...", this, [this] { OnAbout(); });
   mnuHelpAbout->setObjectName("mnuHelpAbout");
 }
 
-QPushButton* frmKeldor::AddBarButton(QWidget* bar, const char* name, double left, const char* toolTip) {
+QPushButton* MainWindow::AddBarButton(QWidget* bar, const char* name, double left, const char* toolTip) {
   auto* button = new QPushButton(bar);
   button->setObjectName(name);
   button->setToolTip(toolTip);
@@ -109,7 +109,7 @@ QPushButton* frmKeldor::AddBarButton(QWidget* bar, const char* name, double left
   return button;
 }
 
-void frmKeldor::BuildButtonBar(QWidget* central) {
+void MainWindow::BuildButtonBar(QWidget* central) {
   fraButtonBar_ = new QFrame(central);
   fraButtonBar_->setObjectName("fraButtonBar");
   fraButtonBar_->setFrameShape(QFrame::StyledPanel);
@@ -118,26 +118,26 @@ void frmKeldor::BuildButtonBar(QWidget* central) {
   connect(btnStart_, &QPushButton::clicked, this, [this] {
     Run([this] {
       CollapsePalette(world_);
-      mnuFileNew_Click();
+      OnFileNew();
     });
   });
   btnStop_ = AddBarButton(fraButtonBar_, "btnStop", StopLeft, "Pause");
-  connect(btnStop_, &QPushButton::clicked, this, [this] { Run([this] { btnStop_Click(world_); }); });
+  connect(btnStop_, &QPushButton::clicked, this, [this] { Run([this] { TogglePlayPause(world_); }); });
   cmdZoomIn_ = AddBarButton(fraButtonBar_, "cmdZoomIn", ZoomInLeft, "Zoom In");
   cmdZoomIn_->setIcon(ButtonIcon(ButtonPicture::ZoomIn));
-  connect(cmdZoomIn_, &QPushButton::clicked, this, [this] { Run([this] { cmdZoomIn_Click(world_); }); });
+  connect(cmdZoomIn_, &QPushButton::clicked, this, [this] { Run([this] { ZoomIn(world_); }); });
   cmdZoomOut_ = AddBarButton(fraButtonBar_, "cmdZoomOut", ZoomOutLeft, "Zoom Out");
   cmdZoomOut_->setIcon(ButtonIcon(ButtonPicture::ZoomOut));
-  connect(cmdZoomOut_, &QPushButton::clicked, this, [this] { Run([this] { cmdZoomOut_Click(world_); }); });
+  connect(cmdZoomOut_, &QPushButton::clicked, this, [this] { Run([this] { ZoomOut(world_); }); });
   btnInfo_ = AddBarButton(fraButtonBar_, "btnInfo", InfoButtonLeft, "Toggle Info");
   btnInfo_->setIcon(ButtonIcon(ButtonPicture::Info));
-  connect(btnInfo_, &QPushButton::clicked, this, [this] { Run([this] { btnInfo_Click(world_, layout_); }); });
+  connect(btnInfo_, &QPushButton::clicked, this, [this] { Run([this] { CloseInfoPanel(world_, layout_); }); });
   btnOdor_ = AddBarButton(fraButtonBar_, "btnOdor", OdorLeft, "");
   btnOdor_->setIcon(ButtonIcon(ButtonPicture::Odor));
-  connect(btnOdor_, &QPushButton::clicked, this, [this] { Run([this] { btnOdor_Click(world_); }); });
+  connect(btnOdor_, &QPushButton::clicked, this, [this] { Run([this] { ToggleOdor(world_); }); });
   btnAnts_ = AddBarButton(fraButtonBar_, "btnAnts", AntsLeft, "");
   btnAnts_->setIcon(ButtonIcon(ButtonPicture::Ants));
-  connect(btnAnts_, &QPushButton::clicked, this, [this] { Run([this] { btnAnts_Click(world_); }); });
+  connect(btnAnts_, &QPushButton::clicked, this, [this] { Run([this] { ToggleAnts(world_); }); });
 
   const char* quickTips[2] = {"Toggle Button Bar", "Toggle Info"};
   for (int i = 0; i < 2; ++i) {
@@ -145,12 +145,12 @@ void frmKeldor::BuildButtonBar(QWidget* central) {
     quick->setObjectName(QString("btnQuick_%1").arg(i + 1));
     quick->setToolTip(quickTips[i]);
     quick->setFocusPolicy(Qt::NoFocus);
-    connect(quick, &QPushButton::clicked, this, [this, i] { Run([this, i] { btnQuick_Click(world_, layout_, i + 1); }); });
+    connect(quick, &QPushButton::clicked, this, [this, i] { Run([this, i] { QuickToggle(world_, layout_, i + 1); }); });
     btnQuick_[i] = quick;
   }
 }
 
-void frmKeldor::BuildPalette(QWidget* central) {
+void MainWindow::BuildPalette(QWidget* central) {
   fraActions_ = new QFrame(central);
   fraActions_->setObjectName("fraActions");
   fraActions_->setFrameShape(QFrame::StyledPanel);
@@ -164,17 +164,17 @@ void frmKeldor::BuildPalette(QWidget* central) {
     button->setToolTip(tips[i]);
     button->setIcon(ButtonIcon(pictures[i]));
     button->setFocusPolicy(Qt::NoFocus);
-    connect(button, &QPushButton::clicked, this, [this, i] { Run([this, i] { btnAction_Click(world_, i); }); });
+    connect(button, &QPushButton::clicked, this, [this, i] { Run([this, i] { SelectTool(world_, i); }); });
     btnAction_[i] = button;
   }
   btnPickAction_ = new QPushButton("v", central);
   btnPickAction_->setObjectName("btnPickAction");
   btnPickAction_->setToolTip("Show/Hide actions");
   btnPickAction_->setFocusPolicy(Qt::NoFocus);
-  connect(btnPickAction_, &QPushButton::clicked, this, [this] { Run([this] { btnPickAction_Click(world_); }); });
+  connect(btnPickAction_, &QPushButton::clicked, this, [this] { Run([this] { TogglePalette(world_); }); });
 }
 
-void frmKeldor::BuildTerrain(QWidget* central) {
+void MainWindow::BuildTerrain(QWidget* central) {
   picTerreno_ = new PictureBox(central);
   picTerreno_->setObjectName("picTerreno");
   connect(picTerreno_, &PictureBox::MouseDown, this, [this](int b, QPointF p) { TerrainMouse(Press, b, p); });
@@ -184,11 +184,11 @@ void frmKeldor::BuildTerrain(QWidget* central) {
   hScroll1_->setObjectName("HScroll1");
   vScroll1_ = new QScrollBar(Qt::Vertical, central);
   vScroll1_->setObjectName("VScroll1");
-  connect(hScroll1_, &QScrollBar::valueChanged, this, &frmKeldor::ScrollBarMoved);
-  connect(vScroll1_, &QScrollBar::valueChanged, this, &frmKeldor::ScrollBarMoved);
+  connect(hScroll1_, &QScrollBar::valueChanged, this, &MainWindow::ScrollBarMoved);
+  connect(vScroll1_, &QScrollBar::valueChanged, this, &MainWindow::ScrollBarMoved);
 }
 
-void frmKeldor::BuildInfoPanel(QWidget* central) {
+void MainWindow::BuildInfoPanel(QWidget* central) {
   fraInfo_ = new QFrame(central);
   fraInfo_->setObjectName("fraInfo");
   fraInfo_->setFrameShape(QFrame::StyledPanel);
@@ -206,42 +206,42 @@ void frmKeldor::BuildInfoPanel(QWidget* central) {
 }
 
 template <typename Command>
-void frmKeldor::Run(Command command) {
+void MainWindow::Run(Command command) {
   command();
   ApplyLayout();
   ShowControls();
 }
 
-void frmKeldor::mnuFileNew_Click() { NewFromOptions(world_, random_); }
+void MainWindow::OnFileNew() { NewFromOptions(world_, random_); }
 
-void frmKeldor::mnuOptions_Click() {
-  frmOptions dialog(world_, this);
+void MainWindow::OnOptions() {
+  OptionsDialog dialog(world_, this);
   options_ = &dialog;
   dialog.exec();
   ShowControls();
 }
 
-void frmKeldor::mnuHelpAbout_Click() {
-  frmAbout dialog(*registry_, *starter_, messages_, this);
+void MainWindow::OnAbout() {
+  AboutBox dialog(*registry_, *starter_, messages_, this);
   dialog.exec();
 }
 
-void frmKeldor::TerrainMouse(int kind, int buttons, QPointF pixel) {
+void MainWindow::TerrainMouse(int kind, int buttons, QPointF pixel) {
   if (!world_.HasWorld()) return;
   const float x = static_cast<float>(world_.View.Terrain.Left + scale_.Twips(pixel.x()));
   const float y = static_cast<float>(world_.View.Terrain.Top + scale_.Twips(pixel.y()));
   if (kind == Press) {
     // The press acts on the cell under the pointer, even without a move before it.
-    picTerreno_MouseMove(world_, 0, x, y);
-    picTerreno_MouseDown(world_, random_, buttons);
+    TerrainPointerMoved(world_, 0, x, y);
+    TerrainPointerPressed(world_, random_, buttons);
   } else if (kind == Move) {
-    picTerreno_MouseMove(world_, buttons, x, y);
+    TerrainPointerMoved(world_, buttons, x, y);
   } else {
-    picTerreno_MouseUp(world_, buttons);
+    TerrainPointerReleased(world_, buttons);
   }
 }
 
-void frmKeldor::MapMouse(bool release, int buttons, QPointF pixel) {
+void MainWindow::MapMouse(bool release, int buttons, QPointF pixel) {
   if (!release && buttons == 0) return;
   const ViewScale& map = world_.View.Map;
   const double x = map.Left + pixel.x() * map.Width / picMapa_->width();
@@ -250,20 +250,20 @@ void frmKeldor::MapMouse(bool release, int buttons, QPointF pixel) {
   ShowControls();
 }
 
-void frmKeldor::ScrollBarMoved() {
+void MainWindow::ScrollBarMoved() {
   if (showing_) return;
-  SetHScrollValue(world_, hScroll1_->value());
-  SetVScrollValue(world_, vScroll1_->value());
+  SetHorizontalScroll(world_, hScroll1_->value());
+  SetVerticalScroll(world_, vScroll1_->value());
   ShowControls();
 }
 
-void frmKeldor::Timer1_Timer() {
-  // The population-limit message is modal: Timer1 keeps firing inside it,
+void MainWindow::AdvanceTick() {
+  // The population-limit message is modal: the tick timer keeps firing inside it,
   // and those ticks are skipped.
   if (inTick_) return;
   inTick_ = true;
   TickContext context{world_, random_, canvases_.Painter(), messages_};
-  keldor::Timer1_Timer(context);
+  keldor::RunTick(context);
   inTick_ = false;
   ++ticksRun_;
   ShowFrame();
@@ -271,30 +271,30 @@ void frmKeldor::Timer1_Timer() {
   ShowControls();
 }
 
-void frmKeldor::ShowFrame() {
+void MainWindow::ShowFrame() {
   picTerreno_->SetFrame(canvases_.Terrain().Image());
   if (world_.Controls.InfoVisible) picMapa_->SetFrame(canvases_.Map().Image());
 }
 
-void frmKeldor::resizeEvent(QResizeEvent* event) {
+void MainWindow::resizeEvent(QResizeEvent* event) {
   QMainWindow::resizeEvent(event);
   DoResize();
 }
 
-void frmKeldor::closeEvent(QCloseEvent* event) {
+void MainWindow::closeEvent(QCloseEvent* event) {
   // Closing by any route unloads the options dialog too.
   if (options_) options_->reject();
-  timer1_.stop();
+  timer_.stop();
   event->accept();
 }
 
-void frmKeldor::DoResize() {
+void MainWindow::DoResize() {
   if (isMinimized()) return;
   // The menu bar lies outside the client area, as the layout expects.
   const QSize client = centralWidget()->size();
   const double width = scale_.Twips(client.width()) + ClassicFrameWidth;
   const double height = scale_.Twips(client.height()) + ClassicFrameHeight;
-  Form_Resize(world_, layout_, width, height);
+  ResizeWindow(world_, layout_, width, height);
   if (layout_.Width > width || layout_.Height > height) {
     const int growX = static_cast<int>(std::ceil((layout_.Width - width) / scale_.TwipsPerPixel()));
     const int growY = static_cast<int>(std::ceil((layout_.Height - height) / scale_.TwipsPerPixel()));
@@ -304,7 +304,7 @@ void frmKeldor::DoResize() {
   ShowControls();
 }
 
-void frmKeldor::ApplyLayout() {
+void MainWindow::ApplyLayout() {
   const ControlState& c = world_.Controls;
   fraButtonBar_->setGeometry(scale_.Rect(layout_.ButtonBar));
   TwipRect actions = layout_.Actions;
@@ -327,14 +327,14 @@ void frmKeldor::ApplyLayout() {
   ResizeCanvases();
 }
 
-void frmKeldor::ResizeCanvases() {
+void MainWindow::ResizeCanvases() {
   // A tick may be waiting inside the population-limit message, halfway
   // through its drawing: the canvases follow the boxes once it is done.
   if (inTick_) return;
   canvases_.Resize(picTerreno_->size(), picMapa_->size());
 }
 
-void frmKeldor::ShowControls() {
+void MainWindow::ShowControls() {
   showing_ = true;
   const ControlState& c = world_.Controls;
   for (QWidget* w : {static_cast<QWidget*>(btnStop_), static_cast<QWidget*>(cmdZoomIn_),
@@ -389,8 +389,8 @@ void frmKeldor::ShowControls() {
     widgets[i]->setValue(bars[i]->Value);
   }
 
-  if (world_.TimerEnabled && !timer1_.isActive()) timer1_.start();
-  if (!world_.TimerEnabled && timer1_.isActive()) timer1_.stop();
+  if (world_.TimerEnabled && !timer_.isActive()) timer_.start();
+  if (!world_.TimerEnabled && timer_.isActive()) timer_.stop();
   showing_ = false;
 }
 

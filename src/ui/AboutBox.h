@@ -10,11 +10,11 @@ class MessageBox;
 class ProgramStarter;
 class Registry;
 
-class frmAbout : public QDialog {
+class AboutBox : public QDialog {
   Q_OBJECT
 
  public:
-  frmAbout(Registry& registry, ProgramStarter& starter, MessageBox& messages, QWidget* parent = nullptr);
+  AboutBox(Registry& registry, ProgramStarter& starter, MessageBox& messages, QWidget* parent = nullptr);
 
  private:
   Registry& registry_;
