@@ -9,7 +9,7 @@
 
 #include <QGuiApplication>
 
-#include "model/Viewport.h"
+#include "window/Viewport.h"
 #include "platform/ViewCanvases.h"
 #include "support/BenchWorlds.h"
 #include "support/PaintFrame.h"
@@ -19,23 +19,26 @@ namespace {
 
 using WorldBuilder = std::unique_ptr<bench::BenchWorld> (*)();
 
-void RenderFrame(benchmark::State& state, WorldBuilder build, int ticks, bool fullHd) {
+// zoomOutTo: press the zoom-out button until the zoom is that low (0: keep 10).
+void RenderFrame(benchmark::State& state, WorldBuilder build, int ticks, bool fullHd, int zoomOutTo = 0) {
   auto subject = build();
   subject->Tick(ticks);
   World& world = subject->world;
-  world.ShowOdor = 1;
-  world.ShowAnts = 1;
-  world.Controls.InfoVisible = true;
+  WindowState& window = subject->window;
+  window.View.ShowOdor = 1;
+  window.View.ShowAnts = 1;
+  window.View.InfoVisible = true;
   int width = static_cast<int>(TerrainDesignWidth / TwipsPerPixel);
   int height = static_cast<int>(TerrainDesignHeight / TwipsPerPixel);
   if (fullHd) {
     width = 1920;
     height = 1080;
-    ResizeTerrainView(world, width * TwipsPerPixel, height * TwipsPerPixel);
+    ResizeTerrainView(window, width * TwipsPerPixel, height * TwipsPerPixel);
   }
-  ViewCanvases views(QSize(width, height), MapBoxPixels());
+  while (window.View.ZoomX > zoomOutTo && zoomOutTo > 0) ZoomOut(window);
+  ViewCanvases views(QSize(width, height), MapBoxPixels(), window.View);
   for (auto _ : state) {
-    testing::PaintFrame(world, views.Painter());
+    testing::PaintFrame(world, window.View, views.Painter());
     benchmark::DoNotOptimize(views.Terrain().Image().constBits());
     benchmark::DoNotOptimize(views.Map().Image().constBits());
   }
@@ -47,6 +50,8 @@ BENCHMARK_CAPTURE(RenderFrame, Default_448x403, bench::DefaultWorld, 2000, false
 BENCHMARK_CAPTURE(RenderFrame, Default_1920x1080, bench::DefaultWorld, 2000, true)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(RenderFrame, Crowded_448x403, bench::CrowdedWorld, 300, false)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(RenderFrame, Crowded_1920x1080, bench::CrowdedWorld, 300, true)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(RenderFrame, Largest_ZoomedOut_1920x1080, bench::LargestWorld, 100, true, 2)
+    ->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(RenderFrame, Large_448x403, bench::LargeWorld, 300, false)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(RenderFrame, Large_1920x1080, bench::LargeWorld, 300, true)->Unit(benchmark::kMillisecond);
 

@@ -3,7 +3,7 @@
 #include <cmath>
 #include <string>
 
-#include "model/Commands.h"
+#include "window/Commands.h"
 #include "model/Numeric.h"
 #include "model/WorldCreation.h"
 #include "sim/Editing.h"
@@ -11,27 +11,24 @@
 namespace keldor::bench {
 
 BenchWorld::BenchWorld(int grid, int foodRate, int antsPerNest) {
-  StartUp(world);
+  StartUp(world, window);
   NewWorldInputs inputs;
   inputs.GridWidthText = std::to_string(grid);
   inputs.GridHeightText = std::to_string(grid);
   if (foodRate >= 0) world.Settings.FoodRate = static_cast<int16_t>(foodRate);
   if (antsPerNest >= 0) world.Settings.AntsPerNest = static_cast<int16_t>(antsPerNest);
-  NewWorld(world, random, inputs);
+  NewWorld(world, window, random, inputs);
   world.Running = true;
 }
 
 void BenchWorld::AddNest(int x, int y) {
-  world.CursorCellX = static_cast<int16_t>(x);
-  world.CursorCellY = static_cast<int16_t>(y);
-  CreateNest(world, random);
+  CreateNest(world, random, static_cast<int16_t>(x), static_cast<int16_t>(y));
 }
 
 void BenchWorld::Tick(int count) {
   for (int i = 0; i < count; ++i) {
     clock.Advance(0.075);
-    RunTick(context);
-    world.Running = true;
+    RunTick(context, TickInputOf(window, world));
   }
 }
 

@@ -5,26 +5,22 @@
 
 #include <memory>
 
-#include "model/MessageBox.h"
 #include "model/Random.h"
 #include "model/World.h"
 #include "sim/Tick.h"
 #include "sim/TickPainter.h"
+#include "window/WindowState.h"
 
 namespace keldor::bench {
-
-class SilentMessageBox : public MessageBox {
- public:
-  void Show(const std::string&) override {}
-};
 
 struct BenchWorld {
   VirtualClock clock{11};
   RandomSource random{clock};
   World world;
+  WindowState window;
   NullPainter painter;
-  SilentMessageBox messages;
-  TickContext context{world, random, painter, messages};
+  IgnoredTickEvents events;
+  TickContext context{world, random, painter, events};
 
   // A new running world; a negative foodRate or antsPerNest keeps the
   // start-up default.
@@ -33,7 +29,7 @@ struct BenchWorld {
   BenchWorld& operator=(const BenchWorld&) = delete;
 
   void AddNest(int x, int y);
-  // Runs count ticks 0.075 s apart, staying running past the population-limit pause.
+  // Runs count ticks 0.075 s apart; the population limit does not pause them.
   void Tick(int count = 1);
 };
 

@@ -7,11 +7,6 @@
 
 namespace keldor {
 
-WorldPoint CellAtPoint(const World& world, double x, double y) {
-  const double cellSize = world.Settings.CellSize;
-  return {Int(x / world.ZoomX / cellSize) + 1, Int(y / world.ZoomY / cellSize) + 1};
-}
-
 bool CellHasObjectType(const World& world, std::string_view typeName, int x, int y) {
   return CellHasObjectType(world.Cells(x, y), typeName);
 }

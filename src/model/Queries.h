@@ -1,5 +1,4 @@
-// Small questions asked of the world: which cell lies under a terrain point,
-// whether a cell holds an object of a type, whether a nest stands on a cell,
+// Small questions asked of the world: whether a cell holds an object of a type, whether a nest stands on a cell,
 // and how far an ant's head is from another ant's body. None changes anything.
 #pragma once
 
@@ -12,10 +11,6 @@
 namespace keldor {
 
 struct World;
-
-// The cell column and row under a terrain-view point, not clamped: a point
-// left of or above the world gives 0 or less, one beyond it GridX+1 or more.
-WorldPoint CellAtPoint(const World& world, double x, double y);
 
 // True when the cell holds an object whose type name equals typeName exactly.
 inline bool CellHasObjectType(const Cell& cell, std::string_view typeName) {
@@ -37,6 +32,9 @@ inline double Max(double a, double b) { return a > b ? a : b; }
 
 // Distance, in world units, from a's head to the segment from b's rear to b's head.
 double PointToSegmentDistance(const Ant& a, const Ant& b);
+
+// The centre of cell column (or row) `cell` in world units.
+inline double CellCentre(int cell, double cellSize) { return (cell - 1) * cellSize + cellSize / 2; }
 
 // The cell column (or row) of a world coordinate: Int(v / CellSize) + 1,
 // held to the 16-bit range. Every ant step asks it several times: where the

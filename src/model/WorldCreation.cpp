@@ -3,33 +3,14 @@
 #include <algorithm>
 #include <cmath>
 
-#include "model/Commands.h"
 #include "model/Numeric.h"
+#include "model/Queries.h"
 #include "model/Random.h"
-#include "model/Viewport.h"
 #include "model/World.h"
 
 namespace keldor {
 
 namespace {
-
-// The control-side steps of New: font, zoom, display flags, enabled buttons,
-// a paused Play/Pause button, the odor tool tip and centred scroll bars.
-void ResetViewForNewWorld(World& world) {
-  world.View.TerrainFontSize = 8;
-  world.Settings.ScaleX = 10;
-  world.Settings.ScaleY = 10;
-  world.ZoomX = 10;
-  world.ZoomY = 10;
-  world.ShowOdor = 0;
-  world.ShowAnts = 1;
-  world.Controls.WorldControlsEnabled = true;
-  world.Running = true;
-  TogglePlayPause(world);
-  world.Controls.OdorToolTip = "Odor Traces";
-  SetScrollRanges(world);
-  CentreScrollBars(world);
-}
 
 void ReadGridSize(World& world, const NewWorldInputs& inputs) {
   WorldSettings& s = world.Settings;
@@ -60,7 +41,7 @@ void ScatterFood(World& world, RandomSource& random) {
       p.X = x;
       p.Y = y;
       p.SpreadBudget = static_cast<int16_t>(CInt(Int(random.Rnd() * 8) + 1));
-      const double half = s.CellSize / 2 * world.ZoomX;
+      const double half = s.CellSize / 2 * NewWorldZoom;
       p.Amount = Pi * (random.Rnd() * 3 + 1) / 4 * (half * half);
       c.Food = p.Amount;
     }
@@ -105,15 +86,12 @@ int GridSizeFromText(const std::string& text) {
   return std::clamp<int32_t>(v, MinGridSize, MaxGridSize);
 }
 
-void NewWorld(World& world, RandomSource& random, const NewWorldInputs& inputs) {
+void CreateWorld(World& world, RandomSource& random, const NewWorldInputs& inputs) {
   WorldSettings& s = world.Settings;
-  ResetViewForNewWorld(world);
+  s.ScaleX = 10;
+  s.ScaleY = 10;
   ReadGridSize(world, inputs);
-  s.CellSize = world.View.Map.Width / s.GridX;
-  world.View.HScroll1.SmallChange = ClampToInt16(CInt(s.CellSize * world.ZoomX));
-  world.View.VScroll1.SmallChange = ClampToInt16(CInt(s.CellSize * world.ZoomY));
-  world.View.HScroll1.LargeChange = ClampToInt16(CInt(world.View.Terrain.Width / 4));
-  world.View.VScroll1.LargeChange = ClampToInt16(CInt(world.View.Terrain.Height / 4));
+  s.CellSize = MapBoxSize / s.GridX;
   world.Walls.Clear();
   world.FoodPiles.Clear();
   world.Cells.Reset(s.GridX, s.GridY);
@@ -128,19 +106,20 @@ void NewWorld(World& world, RandomSource& random, const NewWorldInputs& inputs) 
   world.AntBodyArea = ((l / 6) * (l / 6) + (l / 7) * (l / 7) + (l / 5) * (l / 5)) * Pi;
   random.ReseedFromClock();
   s.LifeSpan = ClampToInt16(inputs.LifeSpanSlider);
-  world.CursorCellX = static_cast<int16_t>(Int(s.GridX / 2.0));
-  world.CursorCellY = static_cast<int16_t>(Int(s.GridY / 2.0));
-  // A 1-wide grid has no centre column 0: keep the first nest on the world.
-  world.CursorCellX = std::max<int16_t>(world.CursorCellX, 1);
-  world.CursorCellY = std::max<int16_t>(world.CursorCellY, 1);
-  CreateNest(world, random);
+  const auto [x, y] = FirstNestCell(s);
+  CreateNest(world, random, x, y);
   world.FoodChance = 100 - s.FoodRate;
   ScatterFood(world, random);
   world.Running = false;
-  world.TimerEnabled = true;
 }
 
-bool CreateNest(World& world, RandomSource& random) {
+std::pair<int16_t, int16_t> FirstNestCell(const WorldSettings& s) {
+  // A 1-wide grid has no centre column 0: keep the first nest on the world.
+  return {std::max<int16_t>(static_cast<int16_t>(Int(s.GridX / 2.0)), 1),
+          std::max<int16_t>(static_cast<int16_t>(Int(s.GridY / 2.0)), 1)};
+}
+
+bool CreateNest(World& world, RandomSource& random, int16_t cellX, int16_t cellY) {
   WorldSettings& s = world.Settings;
   const int16_t antCount = std::max<int16_t>(s.AntsPerNest, 0);
   if (world.NestCount >= Int16Max || s.Population + antCount > Int16Max) return false;
@@ -150,10 +129,10 @@ bool CreateNest(World& world, RandomSource& random) {
   Nest& n = world.Nests.back();
   n = Nest{};
   n.Name = "NEST_" + std::to_string(world.NestCount - 1);
-  n.CellX = world.CursorCellX;
-  n.CellY = world.CursorCellY;
-  n.X = (n.CellX - 1) * s.CellSize + s.CellSize / 2;
-  n.Y = (n.CellY - 1) * s.CellSize + s.CellSize / 2;
+  n.CellX = cellX;
+  n.CellY = cellY;
+  n.X = CellCentre(n.CellX, s.CellSize);
+  n.Y = CellCentre(n.CellY, s.CellSize);
   n.Radius = world.NestRadius;
   n.AntLength = s.AntSizeMm * 56.7;
   n.Colour = s.AntColour;
@@ -175,6 +154,38 @@ std::string MakeSignature(RandomSource& random, int n) {
   std::string s;
   for (int k = 0; k < n; ++k) s += Int(random.Rnd() * 2) == 0 ? '0' : '1';
   return s;
+}
+
+}  // namespace keldor
+
+namespace keldor {
+namespace {
+
+// The "Food Scent" slider's maximum that start-up gives the options dialog.
+constexpr int StartUpTraceSliderMax = 1000;
+
+}  // namespace
+
+void StartUpSettings(WorldSettings& s) {
+  s.ScaleX = 10;
+  s.ScaleY = 10;
+  if (s.GridX == 0) s.GridX = 30;
+  s.CellSize = MapBoxSize / s.GridX;
+  s.SpreadFoodAmount = Pi * ((s.CellSize / 4) * (s.CellSize / 4)) * s.ScaleX;
+  LoadDefaults(s);
+}
+
+void LoadDefaults(WorldSettings& s) {
+  s.AntsPerNest = 30;
+  s.AntSizeMm = 3.0;
+  s.AntRed = 150;
+  s.AntGreen = 100;
+  s.AntBlue = 70;
+  s.LifeSpan = 100;
+  s.AntColour = Rgb(s.AntRed, s.AntGreen, s.AntBlue);
+  s.FoodRate = 2;
+  s.FoodScentMax = ClampToInt16(CInt(StartUpTraceSliderMax / 2.0));
+  s.NestScentMax = ClampToInt16(CInt(s.FoodScentMax / 2.0));
 }
 
 }  // namespace keldor

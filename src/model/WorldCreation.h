@@ -1,9 +1,14 @@
-// Building a world: New throws the old world away and makes a fresh grid with
-// one nest in its centre and food scattered over it; CreateNest adds one nest
-// with its colony on the cursor cell; MakeSignature draws a colony signature.
+// Building a world: New's world part throws the old world away and makes a
+// fresh grid with one nest in its centre and food scattered over it;
+// CreateNest adds one nest with its colony on a cell; MakeSignature draws a
+// colony signature.
 #pragma once
 
+#include <cstdint>
 #include <string>
+#include <utility>
+
+#include "model/WorldSettings.h"
 
 namespace keldor {
 
@@ -28,15 +33,20 @@ struct NewWorldInputs {
 // is held within MinGridSize..MaxGridSize.
 int GridSizeFromText(const std::string& text);
 
-// New (File > New and Start). Leaves the world paused with the tick timer enabled.
-// The control-side effects (enabled buttons, tool tips, scroll bars, font)
-// are written into world.Controls and world.View for the window to show.
-void NewWorld(World& world, RandomSource& random, const NewWorldInputs& inputs);
+// The zoom New sets, which the food it lays is measured with.
+inline constexpr double NewWorldZoom = 10;
 
-// Appends a nest with AntsPerNest ants on (CursorCellX, CursorCellY), which
-// must be a world cell. Returns false, changing nothing, when the nest list is
-// full or the population would pass 32767.
-bool CreateNest(World& world, RandomSource& random);
+// The world's part of New: a fresh grid of the size read from the inputs, the
+// first nest on FirstNestCell, food scattered over the free cells; paused.
+void CreateWorld(World& world, RandomSource& random, const NewWorldInputs& inputs);
+
+// The cell of New's first nest: (Int(GridX / 2), Int(GridY / 2)), at least 1.
+std::pair<int16_t, int16_t> FirstNestCell(const WorldSettings& settings);
+
+// Appends a nest with AntsPerNest ants on cell (cellX, cellY), which must be
+// a world cell. Returns false, changing nothing, when the nest list is full
+// or the population would pass 32767.
+bool CreateNest(World& world, RandomSource& random, int16_t cellX, int16_t cellY);
 
 // A string of n characters "0"/"1" drawn after reseeding from the clock.
 std::string MakeSignature(RandomSource& random, int n);

@@ -28,8 +28,6 @@ struct WorldSettings {
   int16_t NestScentMax = 0;
   int16_t FoodTraceSetting = 0;  // caps the scent mark of an encounter
   int16_t NestTraceSetting = 0;  // stored by the dialog, read by nothing
-  int16_t CurrentTool = 0;       // 0 none, 1 food, 2 wall, 3 remove ants, 4 nest
-  double ToolColour = 0;
 
   // The most food one cell holds: a disc filling the cell, in body units squared.
   double CellFoodCapacity() const {
@@ -38,7 +36,16 @@ struct WorldSettings {
   }
 };
 
-// Editing tools, the values of CurrentTool.
-enum Tool : int16_t { NoTool = 0, FoodTool = 1, WallTool = 2, RemoveAntsTool = 3, NestTool = 4 };
+// The world's part of start-up: scales 10, a 30-cell grid unless one is set,
+// CellSize and the spread amount from it, and the defaults.
+void StartUpSettings(WorldSettings& settings);
+
+// The default settings, as a freshly loaded options dialog leaves them.
+void LoadDefaults(WorldSettings& settings);
+
+// The world's extent in world units, the mini-map's scale: New divides it
+// into GridX cells. It is also the mini-map box's size, which bounds the ants'
+// turns.
+inline constexpr double MapBoxSize = 2000;
 
 }  // namespace keldor

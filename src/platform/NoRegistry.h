@@ -2,7 +2,7 @@
 // reports that the system-information tool is unavailable.
 #pragma once
 
-#include "model/Registry.h"
+#include "window/Registry.h"
 
 namespace keldor {
 

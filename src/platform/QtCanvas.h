@@ -13,7 +13,7 @@
 #include <QRgb>
 #include <cstdint>
 
-#include "model/Viewport.h"
+#include "render/ViewState.h"
 #include "platform/DiscSprites.h"
 #include "platform/TextSprites.h"
 #include "render/Canvas.h"

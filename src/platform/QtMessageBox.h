@@ -2,7 +2,7 @@
 // button and the application's name as its title.
 #pragma once
 
-#include "model/MessageBox.h"
+#include "window/MessageBox.h"
 
 class QWidget;
 

@@ -1,7 +1,7 @@
 // Finding and starting another program, for the About box's System Info.
 #pragma once
 
-#include "model/SystemInfo.h"
+#include "window/SystemInfo.h"
 
 namespace keldor {
 

@@ -4,7 +4,7 @@
 
 #include <memory>
 
-#include "model/Registry.h"
+#include "window/Registry.h"
 
 namespace keldor {
 

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "model/Viewport.h"
+#include "render/ViewState.h"
 #include "platform/FrameImage.h"
 
 namespace keldor {
@@ -20,10 +20,10 @@ QSize MapBoxPixels() {
   return {side, side};
 }
 
-ViewCanvases::ViewCanvases(QSize terrain, QSize map, double devicePixelRatio)
+ViewCanvases::ViewCanvases(QSize terrain, QSize map, const ViewState& view, double devicePixelRatio)
     : terrain_(terrain.width(), terrain.height(), devicePixelRatio),
       map_(map.width(), map.height(), devicePixelRatio),
-      painter_(terrain_, map_) {}
+      painter_(terrain_, map_, view) {}
 
 void ViewCanvases::Resize(QSize terrain, QSize map) {
   ResizeTo(terrain_, terrain);

@@ -17,8 +17,8 @@ QSize MapBoxPixels();
 
 class ViewCanvases {
  public:
-  // Sizes are in logical pixels.
-  ViewCanvases(QSize terrain, QSize map, double devicePixelRatio = 1);
+  // Sizes are in logical pixels; the painter draws what view says.
+  ViewCanvases(QSize terrain, QSize map, const ViewState& view, double devicePixelRatio = 1);
   ViewCanvases(const ViewCanvases&) = delete;
   ViewCanvases& operator=(const ViewCanvases&) = delete;
 

@@ -4,7 +4,7 @@
 
 #ifdef _WIN32
 
-#include "model/Registry.h"
+#include "window/Registry.h"
 
 namespace keldor {
 

@@ -4,6 +4,7 @@
 
 #include "model/Numeric.h"
 #include "model/World.h"
+#include "render/ViewState.h"
 #include "render/ViewColours.h"
 
 namespace keldor {
@@ -37,13 +38,11 @@ void DrawOnMap(const World& world, const Nest& nest, const Ant& ant, Canvas& map
   map.Pen.FillColor = ant.Colour;
 }
 
-void DrawOnTerrain(const World& world, const Nest& nest, const Ant& ant, bool queen, Canvas& terrain) {
-  const double zx = world.ZoomX;
-  const double zy = world.ZoomY;
-  const ViewScale& view = world.View.Terrain;
-  if (!IsPointVisible(ant.RearX * zx, ant.RearY * zy, view) && !IsPointVisible(ant.HeadX * zx, ant.HeadY * zy, view)) {
-    return;
-  }
+void DrawOnTerrain(const World& world, const ViewState& view, const Nest& nest, const Ant& ant, bool queen,
+                   Canvas& terrain) {
+  const double zx = view.ZoomX;
+  const double zy = view.ZoomY;
+  if (!AnyPointVisible(view.Terrain, {{ant.RearX * zx, ant.RearY * zy}, {ant.HeadX * zx, ant.HeadY * zy}})) return;
   const double radiusScale = zx / world.Settings.ScaleX;
   const Point h{ant.HeadX, ant.HeadY};
   const Point r{ant.RearX, ant.RearY};
@@ -69,10 +68,10 @@ void DrawOnTerrain(const World& world, const Nest& nest, const Ant& ant, bool qu
 
 }  // namespace
 
-void DrawAnt(const World& world, const Nest& nest, int antIndex, Canvas& terrain, Canvas& map) {
+void DrawAnt(const World& world, const ViewState& view, const Nest& nest, int antIndex, Canvas& terrain, Canvas& map) {
   const Ant& ant = nest.Ants[antIndex];
-  if (world.Controls.InfoVisible) DrawOnMap(world, nest, ant, map);
-  DrawOnTerrain(world, nest, ant, antIndex == 0, terrain);
+  if (view.InfoVisible) DrawOnMap(world, nest, ant, map);
+  DrawOnTerrain(world, view, nest, ant, antIndex == 0, terrain);
 }
 
 }  // namespace keldor

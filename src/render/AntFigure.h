@@ -7,9 +7,10 @@
 namespace keldor {
 
 struct World;
+struct ViewState;
 struct Nest;
 
 // Draws ant antIndex of nest (0 is the queen). The ant's colour is not reset here.
-void DrawAnt(const World& world, const Nest& nest, int antIndex, Canvas& terrain, Canvas& map);
+void DrawAnt(const World& world, const ViewState& view, const Nest& nest, int antIndex, Canvas& terrain, Canvas& map);
 
 }  // namespace keldor

@@ -10,7 +10,7 @@
 
 #include <string_view>
 
-#include "model/Viewport.h"
+#include "render/ViewState.h"
 
 namespace keldor {
 

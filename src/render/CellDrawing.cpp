@@ -2,6 +2,7 @@
 
 #include "model/Numeric.h"
 #include "model/World.h"
+#include "render/ViewState.h"
 #include "render/ViewColours.h"
 
 namespace keldor {
@@ -14,27 +15,26 @@ void PrintCellScent(Canvas& canvas, double scent) {
   }
 }
 
-void DrawCell(const World& world, const Cell& cell, Canvas& terrain, Canvas& map) {
+void DrawCell(const World& world, const ViewState& view, const Cell& cell, Canvas& terrain, Canvas& map) {
   terrain.Pen.FillColor = cell.Colour;
   map.Pen.FillColor = cell.Colour;
-  if (world.ShowOdor != 1) return;
+  if (view.ShowOdor != 1) return;
 
   const double size = world.Settings.CellSize;
   const double x0 = (cell.X - 1) * size;
   const double y0 = (cell.Y - 1) * size;
   const double x1 = cell.X * size;
   const double y1 = cell.Y * size;
-  if (world.Controls.InfoVisible) {
+  if (view.InfoVisible) {
     map.Pen.Fill = FillStyle::Solid;
     map.Box(x0, y0, x1, y1, cell.Colour);
   }
 
-  const double zx = world.ZoomX;
-  const double zy = world.ZoomY;
-  const ViewScale& view = world.View.Terrain;
-  const bool anyCornerVisible = IsPointVisible(x0 * zx, y0 * zy, view) || IsPointVisible(x0 * zx, y1 * zy, view) ||
-                                IsPointVisible(x1 * zx, y0 * zy, view) || IsPointVisible(x1 * zx, y1 * zy, view);
-  if (!anyCornerVisible) return;
+  const double zx = view.ZoomX;
+  const double zy = view.ZoomY;
+  if (!AnyPointVisible(view.Terrain, {{x0 * zx, y0 * zy}, {x0 * zx, y1 * zy}, {x1 * zx, y0 * zy}, {x1 * zx, y1 * zy}})) {
+    return;
+  }
 
   terrain.Box(x0 * zx, y0 * zy, x1 * zx, y1 * zy, Black);
   terrain.Pen.CurrentX = (x0 + size / 20) * zx;

@@ -10,12 +10,13 @@
 namespace keldor {
 
 struct World;
+struct ViewState;
 
 // Leaves both views at FillStyle solid and DrawWidth 1.
-void DrawViewFrames(const World& world, Canvas& terrain, Canvas& map);
+void DrawViewFrames(const World& world, const ViewState& view, Canvas& terrain, Canvas& map);
 
 // "ZOOM: 1.1X" at zoom 11; empty at zoom factor 1.
-std::string ZoomLabelText(const World& world);
-void DrawZoomLabel(const World& world, Canvas& terrain);
+std::string ZoomLabelText(const World& world, const ViewState& view);
+void DrawZoomLabel(const World& world, const ViewState& view, Canvas& terrain);
 
 }  // namespace keldor

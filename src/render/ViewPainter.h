@@ -6,6 +6,7 @@
 #include <functional>
 
 #include "render/Canvas.h"
+#include "render/ViewState.h"
 #include "sim/TickPainter.h"
 
 namespace keldor {
@@ -13,7 +14,8 @@ namespace keldor {
 class ViewPainter : public TickPainter {
  public:
   // onFrameFinished, if given, is called when a frame is complete (the window shows it).
-  ViewPainter(Canvas& terrain, Canvas& map, std::function<void()> onFrameFinished = {});
+  // view: what the window shows, read at every call.
+  ViewPainter(Canvas& terrain, Canvas& map, const ViewState& view, std::function<void()> onFrameFinished = {});
 
   void ClearViews(const World& world) override;
   void DrawCell(const World& world, const Cell& cell) override;
@@ -28,6 +30,7 @@ class ViewPainter : public TickPainter {
  private:
   Canvas& terrain_;
   Canvas& map_;
+  const ViewState& view_;
   std::function<void()> onFrameFinished_;
 };
 

@@ -82,12 +82,12 @@ void Translate(Ant& ant, double dx, double dy) {
 }
 
 // Rotates the ant about (px, py) unless its head would leave the map box.
-void Turn(const World& world, Ant& ant, double px, double py) {
+void Turn(Ant& ant, double px, double py) {
   const double c = std::cos(ant.Angle);
   const double s = std::sin(ant.Angle);
   const double headX = (ant.HeadX - px) * c + px - (ant.HeadY - py) * s;
   const double headY = (ant.HeadX - px) * s + py + (ant.HeadY - py) * c;
-  if (headX < 0 || headX > world.View.MapBoxWidth || headY < 0 || headY > world.View.MapBoxHeight) return;
+  if (headX < 0 || headX > MapBoxSize || headY < 0 || headY > MapBoxSize) return;
   const double rearX = (ant.RearX - px) * c + px - (ant.RearY - py) * s;
   const double rearY = (ant.RearX - px) * s + py + (ant.RearY - py) * c;
   ant.RearX = rearX;
@@ -113,32 +113,35 @@ bool MayEnterTrail(const Nest& nest, const Ant& ant, const Cell& target) {
 
 // Rules b, c and d: a searching ant climbs the food gradient, walks anywhere
 // while no food scent is near, or follows the nest gradient on a food crest.
-bool SearchingRulesAdmit(const World& world, int cx, int cy, const Cell& c, const Cell& n) {
+bool SearchingRulesAdmit(const World& world, int16_t nestTrace, int cx, int cy, const Cell& c, const Cell& n) {
   const double foodward = FoodwardCell(world, cx, cy).Scent;
   if (n.Scent == foodward) return true;                   // b
   if (foodward <= 0 && c.Scent <= 0) return true;         // c
-  return c.Scent == foodward && n.Scent == NestwardCell(world, cx, cy).Scent;  // d
+  return c.Scent == foodward && n.Scent == NestwardCell(world, cx, cy, nestTrace).Scent;  // d
 }
 
 // Rules e to h: a loaded ant heads for the nest cell, leaves a nestless
 // spot for food scent, or walks down its own colony's nest gradient.
-bool CarryingRulesAdmit(const World& world, const Nest& nest, int cx, int cy, const Cell& c, const Cell& n) {
+bool CarryingRulesAdmit(const World& world, int16_t nestTrace, const Nest& nest, int cx, int cy, const Cell& c,
+                        const Cell& n) {
   const double nestMark = -world.Settings.NestScentMax;
   if (n.Scent == nestMark) return true;  // e
-  const ScentLookup nw = NestwardCell(world, cx, cy);
+  const ScentLookup nw = NestwardCell(world, cx, cy, nestTrace);
   if (n.Scent > 0 && nw.Scent == 0) return true;  // f
   if (c.Scent > nestMark && c.Scent == nw.Scent && n.Scent == FoodwardCell(world, cx, cy).Scent) return true;  // g
   return nw.Signature == nest.Signature && (n.Scent < 0 || nw.Scent != 0) && n.Scent == nw.Scent;  // h
 }
 
 // The neighbourhood lookups are pure: each is made only when a rule needs it.
-bool MayStepForward(const World& world, const Nest& nest, const Ant& ant, int cx, int cy, int nx, int ny) {
+bool MayStepForward(const World& world, int16_t nestTrace, const Nest& nest, const Ant& ant, int cx, int cy, int nx,
+                    int ny) {
   if (!InGrid(world, nx, ny) || !IsEdgeNeighbourOrSame(cx, cy, nx, ny) || IsBrick(world, nx, ny)) return false;
   const Cell& c = world.Cells(cx, cy);
   const Cell& n = world.Cells(nx, ny);
   if (!HasRoom(world, nest, n) || !MayEnterTrail(nest, ant, n)) return false;
   if (nx == cx && ny == cy) return true;  // a
-  return ant.Load == 0 ? SearchingRulesAdmit(world, cx, cy, c, n) : CarryingRulesAdmit(world, nest, cx, cy, c, n);
+  return ant.Load == 0 ? SearchingRulesAdmit(world, nestTrace, cx, cy, c, n)
+                       : CarryingRulesAdmit(world, nestTrace, nest, cx, cy, c, n);
 }
 
 void StepQueen(World& world, RandomSource& random, int nestIndex) {
@@ -150,7 +153,7 @@ void StepQueen(World& world, RandomSource& random, int nestIndex) {
   queen.CellX = static_cast<int16_t>(cx);
   queen.CellY = static_cast<int16_t>(cy);
   queen.Angle = IsBrick(world, cx, cy) ? 0 : QueenTurn(random);
-  Turn(world, queen, nest.X, nest.Y);
+  Turn(queen, nest.X, nest.Y);
   Cell& cell = world.Cells(cx, cy);
   cell.Scent = -world.Settings.NestScentMax;
   BlendSignature(random, 0, nest, cell, Signature::Capacity);
@@ -189,12 +192,14 @@ struct WorkerStep {
   double DX, DY;
 };
 
-void StepForward(World& world, RandomSource& random, int nestIndex, int antIndex, const WorkerStep& step) {
+void StepForward(World& world, RandomSource& random, int nestIndex, int antIndex, const WorkerStep& step,
+                 int16_t nestTrace) {
   Ant& ant = world.Nests[static_cast<size_t>(nestIndex)].Ants[antIndex];
   Translate(ant, step.DX, step.DY);
   ant.Angle = RandomTurn(random, 60);
   MoveAntCount(world, step.CurrentX, step.CurrentY, step.TargetX, step.TargetY);
-  LayScentTrail(world, random, nestIndex, antIndex, step.CurrentX, step.CurrentY, step.TargetX, step.TargetY);
+  LayScentTrail(world, random, nestIndex, antIndex, step.CurrentX, step.CurrentY, step.TargetX, step.TargetY,
+                nestTrace);
   ant.CellX = static_cast<int16_t>(step.TargetX);
   ant.CellY = static_cast<int16_t>(step.TargetY);
 }
@@ -202,21 +207,21 @@ void StepForward(World& world, RandomSource& random, int nestIndex, int antIndex
 // A refused step: back off one step, or, where that cell is off the grid or
 // walled, stay where the step began (the turn undone).
 void BackOff(World& world, RandomSource& random, int nestIndex, int antIndex, const WorkerStep& step,
-             const Ant& before) {
+             const Ant& before, int16_t nestTrace) {
   Ant& ant = world.Nests[static_cast<size_t>(nestIndex)].Ants[antIndex];
   const double cellSize = world.Settings.CellSize;
   const int bx = CellOfCoordinate(ant.HeadX - step.DX, cellSize);
   const int by = CellOfCoordinate(ant.HeadY - step.DY, cellSize);
   if (InGrid(world, bx, by) && !IsBrick(world, bx, by)) {
     if (bx != step.CurrentX || by != step.CurrentY) MoveAntCount(world, step.CurrentX, step.CurrentY, bx, by);
-    LayScentTrail(world, random, nestIndex, antIndex, step.CurrentX, step.CurrentY, bx, by);
+    LayScentTrail(world, random, nestIndex, antIndex, step.CurrentX, step.CurrentY, bx, by, nestTrace);
     Translate(ant, -step.DX, -step.DY);
     ant.Angle = RandomTurn(random, 60);
     ant.CellX = static_cast<int16_t>(bx);
     ant.CellY = static_cast<int16_t>(by);
     return;
   }
-  LayScentTrail(world, random, nestIndex, antIndex, step.CurrentX, step.CurrentY, bx, by);
+  LayScentTrail(world, random, nestIndex, antIndex, step.CurrentX, step.CurrentY, bx, by, nestTrace);
   ant.RearX = before.RearX;
   ant.RearY = before.RearY;
   ant.HeadX = before.HeadX;
@@ -224,7 +229,8 @@ void BackOff(World& world, RandomSource& random, int nestIndex, int antIndex, co
   ant.Angle = RandomTurn(random, 60);
 }
 
-void StepWorker(World& world, RandomSource& random, int nestIndex, int antIndex, double stepDivisor) {
+void StepWorker(World& world, RandomSource& random, int nestIndex, int antIndex, double stepDivisor,
+                int16_t nestTrace) {
   Nest& nest = world.Nests[static_cast<size_t>(nestIndex)];
   Ant& ant = nest.Ants[antIndex];
   const double cellSize = world.Settings.CellSize;
@@ -234,17 +240,17 @@ void StepWorker(World& world, RandomSource& random, int nestIndex, int antIndex,
   step.CurrentY = CellOfCoordinate(ant.HeadY, cellSize);
   ant.CellX = static_cast<int16_t>(step.CurrentX);
   ant.CellY = static_cast<int16_t>(step.CurrentY);
-  Turn(world, ant, ant.RearX + (ant.HeadX - ant.RearX) / stepDivisor,
+  Turn(ant, ant.RearX + (ant.HeadX - ant.RearX) / stepDivisor,
        ant.RearY + (ant.HeadY - ant.RearY) / stepDivisor);
   step.DX = (ant.HeadX - ant.RearX) / stepDivisor;
   step.DY = (ant.HeadY - ant.RearY) / stepDivisor;
   step.TargetX = CellOfCoordinate(ant.HeadX + step.DX, cellSize);
   step.TargetY = CellOfCoordinate(ant.HeadY + step.DY, cellSize);
 
-  if (MayStepForward(world, nest, ant, step.CurrentX, step.CurrentY, step.TargetX, step.TargetY)) {
-    StepForward(world, random, nestIndex, antIndex, step);
+  if (MayStepForward(world, nestTrace, nest, ant, step.CurrentX, step.CurrentY, step.TargetX, step.TargetY)) {
+    StepForward(world, random, nestIndex, antIndex, step, nestTrace);
   } else {
-    BackOff(world, random, nestIndex, antIndex, step, before);
+    BackOff(world, random, nestIndex, antIndex, step, before, nestTrace);
   }
   if (step.TargetX == step.CurrentX && step.TargetY == step.CurrentY) {
     DeliverAndFeed(world, nest, ant, world.Cells(step.CurrentX, step.CurrentY));
@@ -253,9 +259,9 @@ void StepWorker(World& world, RandomSource& random, int nestIndex, int antIndex,
 
 }  // namespace
 
-ScentLookup NestwardCell(const World& world, int x, int y) {
+ScentLookup NestwardCell(const World& world, int x, int y, int16_t nestTrace) {
   // Pointers to the best cells so far: no signature is copied until the end.
-  const double nestCell = -world.NestTraceValue();
+  const double nestCell = -nestTrace;
   const Cell& centre = world.Cells(x, y);
   const double own = centre.Scent;
   const Cell* best = &centre;
@@ -298,12 +304,13 @@ void BlendSignature(RandomSource& random, int antIndex, const Nest& source, Cell
   MixSignature(random, source.Signature, target, length);
 }
 
-void LayScentTrail(World& world, RandomSource& random, int nestIndex, int antIndex, int cx, int cy, int nx, int ny) {
+void LayScentTrail(World& world, RandomSource& random, int nestIndex, int antIndex, int cx, int cy, int nx, int ny,
+                   int16_t nestTrace) {
   Cell& c = CellOrBorder(world, cx, cy);
   Cell& n = CellOrBorder(world, nx, ny);
   Nest& nest = world.Nests[static_cast<size_t>(nestIndex)];
   Ant& ant = nest.Ants[antIndex];
-  const double nestCell = -world.NestTraceValue();
+  const double nestCell = -nestTrace;
   const bool loaded = ant.Load > 0;
   if (!loaded && c.Scent <= 0 && n.Scent > 0) {  // U1
     if (std::abs(n.Scent) > std::abs(c.Scent) && c.Scent != nestCell) c.Scent = n.Scent - 1;
@@ -329,7 +336,7 @@ void LayScentTrail(World& world, RandomSource& random, int nestIndex, int antInd
   if (nx != cx && ny != cy) BlendSignature(random, antIndex, nest, n, Signature::Capacity);
 }
 
-void StepAnt(World& world, RandomSource& random, int nestIndex, int antIndex) {
+void StepAnt(World& world, RandomSource& random, int nestIndex, int antIndex, int16_t nestTrace) {
   if (!world.Running) return;
   if (!(world.Nests[static_cast<size_t>(nestIndex)].Ants[antIndex].Energy > 0)) return;
   // Every ant draws its step divisor, the queen too, though she never walks.
@@ -337,7 +344,7 @@ void StepAnt(World& world, RandomSource& random, int nestIndex, int antIndex) {
   if (antIndex == 0) {
     StepQueen(world, random, nestIndex);
   } else {
-    StepWorker(world, random, nestIndex, antIndex, stepDivisor);
+    StepWorker(world, random, nestIndex, antIndex, stepDivisor, nestTrace);
   }
 }
 

@@ -2,8 +2,6 @@
 
 #include <cmath>
 
-#include "model/Commands.h"
-#include "model/MessageBox.h"
 #include "model/Numeric.h"
 #include "model/Queries.h"
 #include "model/Random.h"
@@ -53,10 +51,6 @@ void BreedNests(World& world, RandomSource& random) {
   }
 }
 
-void CheckPopulationLimit(World& world, MessageBox& messages) {
-  if (world.Settings.Population != 2000) return;
-  messages.Show("Maximum ant population has been reached.");
-  TogglePlayPause(world);
-}
+bool PopulationAtLimit(const World& world) { return world.Settings.Population == 2000; }
 
 }  // namespace keldor

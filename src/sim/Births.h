@@ -5,12 +5,12 @@ namespace keldor {
 
 struct World;
 class RandomSource;
-class MessageBox;
 
 // Each nest with a living queen turns its store into newborns, one AntUnit each.
 void BreedNests(World& world, RandomSource& random);
 
-// At exactly 2000 living ants: the message, then the pause button is pressed.
-void CheckPopulationLimit(World& world, MessageBox& messages);
+// The limit check: true at exactly 2000 living ants. The tick then reports
+// the limit, and the window shows its message and pauses the world.
+bool PopulationAtLimit(const World& world);
 
 }  // namespace keldor

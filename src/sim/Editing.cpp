@@ -33,11 +33,6 @@ FoodPile* FirstPileOn(World& world, int x, int y) {
   return nullptr;
 }
 
-bool MatchesPointerCell(const World& world, int x, int y) {
-  const WorldPoint p = CellAtPoint(world, world.MouseX, world.MouseY);
-  return x == p.X && y == p.Y;
-}
-
 }  // namespace
 
 FoodPile* AppendFoodPile(World& world, RandomSource& random, int16_t x, int16_t y, double amount) {
@@ -59,9 +54,9 @@ bool AddWallAt(World& world, int16_t x, int16_t y) {
   return true;
 }
 
-bool RemoveWallAtCursor(World& world, int wallIndex) {
+bool RemoveWallAt(World& world, int wallIndex, double x, double y) {
   const WallObject& wall = world.Walls[wallIndex];
-  if (!MatchesPointerCell(world, wall.X, wall.Y)) return false;
+  if (!(wall.X == x && wall.Y == y)) return false;
   Cell& cell = world.Cells(wall.X, wall.Y);
   for (int k = 0; k < cell.ObjectCount(); ++k) {
     if (cell.Objects[k].TypeName == PlasterBrickType) {
@@ -73,9 +68,7 @@ bool RemoveWallAtCursor(World& world, int wallIndex) {
   return true;
 }
 
-int16_t RemoveAntsAtCursor(World& world, RandomSource& random) {
-  const int x = world.CursorCellX;
-  const int y = world.CursorCellY;
+int16_t RemoveAntsAt(World& world, RandomSource& random, int x, int y) {
   Cell& cell = world.Cells(x, y);
   const double capacity = world.Settings.CellFoodCapacity();
   int16_t removed = 0;
@@ -111,22 +104,20 @@ int16_t RemoveAntsAtCursor(World& world, RandomSource& random) {
   return removed;
 }
 
-std::optional<double> AdjustFoodAtCursor(World& world, int pileIndex) {
+std::optional<double> AdjustFoodAt(World& world, int pileIndex, double x, double y, int button) {
   FoodPile& pile = world.FoodPiles[pileIndex];
-  if (!MatchesPointerCell(world, pile.X, pile.Y)) return std::nullopt;
+  if (!(pile.X == x && pile.Y == y)) return std::nullopt;
   const WorldSettings& s = world.Settings;
-  if (world.MouseButton == 1) {
+  if (button == 1) {
     pile.Amount = Min(pile.Amount + s.SpreadFoodAmount, s.CellFoodCapacity());
-  } else if (world.MouseButton == 2) {
+  } else if (button == 2) {
     pile.Amount = Max(pile.Amount - s.SpreadFoodAmount, 0);
   }
   world.Cells(pile.X, pile.Y).Food = pile.Amount;
   return pile.Amount;
 }
 
-void RemoveNestAtCursor(World& world, RandomSource& random) {
-  const int x = world.CursorCellX;
-  const int y = world.CursorCellY;
+void RemoveNestAt(World& world, RandomSource& random, int x, int y) {
   int found = -1;
   for (int n = 0; n < world.NestCount && found < 0; ++n) {
     const Nest& nest = world.Nests[static_cast<size_t>(n)];

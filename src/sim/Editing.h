@@ -1,6 +1,7 @@
-// Editing the world on the cell under the pointer: food, plaster bricks, ants
-// and nests. The terrain tools call these on mouse presses and drags; the tick
-// calls the held-button ones (ant removal, food adjustment) once per tick.
+// Editing the world on one cell: food, plaster bricks, ants and nests. The
+// terrain tools call these on pointer presses and drags with the cell under
+// the pointer; the tick calls the held-button ones (ant removal, food
+// adjustment) once per tick.
 #pragma once
 
 #include <cstdint>
@@ -21,19 +22,20 @@ FoodPile* AppendFoodPile(World& world, RandomSource& random, int16_t x, int16_t 
 // cell's Objects. Returns false, changing nothing, when a list is full.
 bool AddWallAt(World& world, int16_t x, int16_t y);
 
-// Removes wall i when it stands on the (unclamped) cell under the pointer.
-bool RemoveWallAtCursor(World& world, int wallIndex);
+// Removes wall i when it stands on cell (x, y), which may lie off the world.
+bool RemoveWallAt(World& world, int wallIndex, double x, double y);
 
-// Removes the living workers standing on the cursor cell (never a queen,
+// Removes the living workers standing on world cell (x, y) (never a queen,
 // never a dead ant), dropping their loads on the cell. Returns how many went.
-int16_t RemoveAntsAtCursor(World& world, RandomSource& random);
+int16_t RemoveAntsAt(World& world, RandomSource& random, int x, int y);
 
-// Grows (left button) or shrinks (right button) food pile i when it lies on
-// the cell under the pointer. Returns its new amount when it matched.
-std::optional<double> AdjustFoodAtCursor(World& world, int pileIndex);
+// Grows (button 1, left) or shrinks (button 2, right) food pile i when it
+// lies on cell (x, y), which may lie off the world. Returns its new amount
+// when it matched.
+std::optional<double> AdjustFoodAt(World& world, int pileIndex, double x, double y, int button);
 
-// Removes the first nest on the cursor cell: its store and its living ants'
+// Removes the first nest on world cell (x, y): its store and its living ants'
 // loads fall on the cell as food; its living ants leave the population.
-void RemoveNestAtCursor(World& world, RandomSource& random);
+void RemoveNestAt(World& world, RandomSource& random, int x, int y);
 
 }  // namespace keldor

@@ -17,8 +17,8 @@ namespace {
 void Bite(const WorldSettings& s, FoodPile& pile, Cell& cell, const Nest& nest, Ant& ant) {
   if (!(ant.Energy > 0)) return;
   const double radius = std::sqrt(pile.Amount / Pi);
-  const double dx = ((pile.X - 1) * s.CellSize + s.CellSize / 2) * s.ScaleX - s.ScaleX * ant.HeadX;
-  const double dy = ((pile.Y - 1) * s.CellSize + s.CellSize / 2) * s.ScaleY - s.ScaleY * ant.HeadY;
+  const double dx = CellCentre(pile.X, s.CellSize) * s.ScaleX - s.ScaleX * ant.HeadX;
+  const double dy = CellCentre(pile.Y, s.CellSize) * s.ScaleY - s.ScaleY * ant.HeadY;
   if (!(radius >= std::sqrt(dx * dx + dy * dy) && ant.Load < nest.AntUnit)) return;
   if (pile.Amount > nest.AntUnit) {
     ant.Load += nest.AntUnit;
@@ -41,8 +41,8 @@ void FeedAnts(World& world, AntIndex* index, FoodPile& pile, Cell& cell) {
   }
   // The disc only shrinks during the pass: its radius now bounds every bite.
   const double reach = std::sqrt(pile.Amount / Pi) / std::min(s.ScaleX, s.ScaleY);
-  const double centreX = (pile.X - 1) * s.CellSize + s.CellSize / 2;
-  const double centreY = (pile.Y - 1) * s.CellSize + s.CellSize / 2;
+  const double centreX = CellCentre(pile.X, s.CellSize);
+  const double centreY = CellCentre(pile.Y, s.CellSize);
   for (const AntRef& ref : index->Near(centreX, centreY, reach)) {
     Nest& nest = world.Nests[static_cast<size_t>(ref.Nest)];
     Bite(s, pile, cell, nest, nest.Ants[ref.Ant]);
@@ -74,10 +74,12 @@ void Spread(World& world, RandomSource& random, int pileIndex) {
 
 }  // namespace
 
-void FoodPileUpdate(World& world, RandomSource& random, AntIndex* index) {
+void FoodPileUpdate(World& world, RandomSource& random, AntIndex* index, const TickInput& input) {
   const double capacity = world.Settings.CellFoodCapacity();
   for (int j = 0; j <= world.FoodPileCount() - 1; ++j) {
-    if (world.Settings.CurrentTool == 1 && world.MouseHeld) AdjustFoodAtCursor(world, j);
+    if (input.CurrentTool == FoodTool && input.PointerHeld) {
+      AdjustFoodAt(world, j, input.PointerCellX, input.PointerCellY, input.PointerButton);
+    }
     FoodPile& pile = world.FoodPiles[j];
     Cell& cell = world.Cells(pile.X, pile.Y);
     const bool walled = CellHasObjectType(cell, PlasterBrickType);

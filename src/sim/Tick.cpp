@@ -17,16 +17,17 @@ namespace keldor {
 namespace {
 
 // Draws every ant (while ants are shown) and steps the living ones.
-void AntPass(World& world, RandomSource& random, TickPainter& painter) {
+void AntPass(World& world, RandomSource& random, TickPainter& painter, const TickInput& input) {
+  const int16_t nestTrace = input.NestTraceSlider.value_or(world.Settings.NestScentMax);
   for (int i = 0; i < world.NestCount; ++i) {
     for (int j = 0; j < world.Nests[static_cast<size_t>(i)].AntCount(); ++j) {
-      if (world.ShowAnts == 1) {
+      if (input.AntsShown) {
         Nest& nest = world.Nests[static_cast<size_t>(i)];
         painter.DrawAnt(world, nest, j);
         // A bitten ant is drawn red once, then takes its nest's colour again.
         nest.Ants[j].Colour = nest.Colour;
       }
-      StepAnt(world, random, i, j);
+      StepAnt(world, random, i, j, nestTrace);
     }
   }
 }
@@ -38,7 +39,7 @@ int AntRecordCount(const World& world) {
   return records;
 }
 
-// Clears TickInProgress however the tick ends.
+// Marks a tick as running until it ends, however it ends.
 class TickGuard {
  public:
   explicit TickGuard(bool& flag) : flag_(flag) { flag_ = true; }
@@ -52,16 +53,18 @@ class TickGuard {
 
 }  // namespace
 
-void RunTick(TickContext& context) {
+bool RunTick(TickContext& context, const TickInput& input) {
   World& world = context.world;
-  if (world.TickInProgress) return;
-  TickGuard guard(world.TickInProgress);
+  if (context.InProgress) return false;
+  TickGuard guard(context.InProgress);
   RandomSource& random = context.random;
   TickPainter& painter = context.painter;
 
   random.ReseedFromClock();
   painter.ClearViews(world);
-  if (world.Settings.CurrentTool == 3 && world.MouseHeld) RemoveAntsAtCursor(world, random);
+  if (input.CurrentTool == RemoveAntsTool && input.PointerHeld) {
+    RemoveAntsAt(world, random, input.CursorCellX, input.CursorCellY);
+  }
 
   // No ant moves before the ant pass, but upkeep renumbers ants when it
   // removes bodies or nests: the pile pass then needs a fresh index. Ants
@@ -72,23 +75,23 @@ void RunTick(TickContext& context) {
     const int records = AntRecordCount(world);
     AntUpkeep(world);
     if (AntRecordCount(world) != records) index = AntIndex(world);
-    FoodPileUpdate(world, random, &index);
+    FoodPileUpdate(world, random, &index, input);
   } else {
     ResolveEncounters(world, nullptr);
     AntUpkeep(world);
-    FoodPileUpdate(world, random, nullptr);
+    FoodPileUpdate(world, random, nullptr, input);
   }
   CellUpdate(world, painter);
   painter.DrawWalls(world);
   painter.DrawNests(world);
   painter.DrawFoodPiles(world);
-  AntPass(world, random, painter);
-  CheckPopulationLimit(world, context.messages);
+  AntPass(world, random, painter, input);
+  if (PopulationAtLimit(world)) context.events.PopulationLimitReached();
   painter.DrawViewFrames(world);
   BreedNests(world, random);
-  world.Controls.PopulationCaption = CStr(world.Settings.Population);
   painter.DrawZoomLabel(world);
   painter.FinishFrame(world);
+  return true;
 }
 
 }  // namespace keldor

@@ -10,29 +10,33 @@
 //  10. the population limit check
 //  11. the frames of the visible area
 //  12. births (running only)
-//  13. the population and zoom labels
+//  13. the zoom label (the window writes the population label after the tick)
 //  14. the frame is shown
 #pragma once
+
+#include "sim/TickInput.h"
 
 namespace keldor {
 
 struct World;
 class RandomSource;
 class TickPainter;
-class MessageBox;
 
 struct TickContext {
   World& world;
   RandomSource& random;
   TickPainter& painter;
-  MessageBox& messages;  // the population-limit message
+  TickEvents& events;
   // Pair ants with piles and rivals through a cell index (same results as the
   // full scans, which remain for comparison).
   bool UseAntIndex = true;
+  // A tick is running: set and cleared by RunTick.
+  bool InProgress = false;
 };
 
-// Runs one tick. A call made while another tick is still running (from inside
-// the modal population-limit message) returns at once.
-void RunTick(TickContext& context);
+// Runs one tick with what the window hands it. A call made while another tick
+// is still running (from inside the modal population-limit message) returns
+// false at once.
+bool RunTick(TickContext& context, const TickInput& input);
 
 }  // namespace keldor

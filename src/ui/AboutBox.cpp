@@ -5,7 +5,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "model/SystemInfo.h"
+#include "window/SystemInfo.h"
 #include "ui/ButtonPictures.h"
 #include "ui/AppTexts.h"
 

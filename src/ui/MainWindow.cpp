@@ -10,12 +10,12 @@
 #include <algorithm>
 #include <cmath>
 
-#include "model/Commands.h"
-#include "model/OptionsForm.h"
-#include "model/Viewport.h"
+#include "window/Commands.h"
+#include "window/OptionsForm.h"
+#include "window/Viewport.h"
 #include "platform/QtProgramStarter.h"
 #include "platform/SystemRegistry.h"
-#include "sim/TerrainTools.h"
+#include "window/TerrainTools.h"
 #include "sim/Tick.h"
 #include "ui/AppTexts.h"
 #include "ui/ButtonPictures.h"
@@ -52,7 +52,9 @@ MainWindow::MainWindow(MessageBox& messages, Clock& clock, QWidget* parent)
       scale_(TwipScale::ForWidget(*this)),
       registry_(MakeSystemRegistry()),
       starter_(std::make_unique<QtProgramStarter>()),
-      canvases_(QSize(1, 1), QSize(scale_.Pixels(MapBox.Width), scale_.Pixels(MapBox.Height)), devicePixelRatioF()) {
+      canvases_(QSize(1, 1), QSize(scale_.Pixels(MapBox.Width), scale_.Pixels(MapBox.Height)), window_.View,
+                devicePixelRatioF()),
+      tick_{world_, random_, canvases_.Painter(), populationLimit_} {
   setObjectName("frmKeldor");
   setWindowTitle(ApplicationTitle);
   setWindowIcon(AppIcon());
@@ -64,7 +66,7 @@ MainWindow::MainWindow(MessageBox& messages, Clock& clock, QWidget* parent)
   BuildPalette(central);
   BuildInfoPanel(central);
 
-  StartUp(world_);
+  StartUp(world_, window_);
   timer_.setInterval(TickIntervalMs);
   connect(&timer_, &QTimer::timeout, this, &MainWindow::AdvanceTick);
   resize(scale_.Pixels(InitialWidth - ClassicFrameWidth),
@@ -85,10 +87,10 @@ void MainWindow::BuildMenus() {
   QMenu* tools = menuBar()->addMenu("&Tools");
   QMenu* view = tools->addMenu("&View");
   view->menuAction()->setObjectName("mnuView");
-  mnuButtons_ = view->addAction("&Buttons", this, [this] { Run([this] { ToggleButtonBar(world_, layout_); }); });
+  mnuButtons_ = view->addAction("&Buttons", this, [this] { Run([this] { ToggleButtonBar(window_, layout_); }); });
   mnuButtons_->setObjectName("mnuButtons");
   mnuButtons_->setCheckable(true);
-  mnuInfo_ = view->addAction("&Info", this, [this] { Run([this] { ToggleInfoPanel(world_, layout_); }); });
+  mnuInfo_ = view->addAction("&Info", this, [this] { Run([this] { ToggleInfoPanel(window_, layout_); }); });
   mnuInfo_->setObjectName("mnuInfo");
   mnuInfo_->setCheckable(true);
   QAction* mnuOptions = tools->addAction("&Options...", this, [this] { OnOptions(); });
@@ -117,27 +119,27 @@ void MainWindow::BuildButtonBar(QWidget* central) {
   btnStart_->setIcon(ButtonIcon(ButtonPicture::Start));
   connect(btnStart_, &QPushButton::clicked, this, [this] {
     Run([this] {
-      CollapsePalette(world_);
+      CollapsePalette(window_);
       OnFileNew();
     });
   });
   btnStop_ = AddBarButton(fraButtonBar_, "btnStop", StopLeft, "Pause");
-  connect(btnStop_, &QPushButton::clicked, this, [this] { Run([this] { TogglePlayPause(world_); }); });
+  connect(btnStop_, &QPushButton::clicked, this, [this] { Run([this] { TogglePlayPause(world_, window_); }); });
   cmdZoomIn_ = AddBarButton(fraButtonBar_, "cmdZoomIn", ZoomInLeft, "Zoom In");
   cmdZoomIn_->setIcon(ButtonIcon(ButtonPicture::ZoomIn));
-  connect(cmdZoomIn_, &QPushButton::clicked, this, [this] { Run([this] { ZoomIn(world_); }); });
+  connect(cmdZoomIn_, &QPushButton::clicked, this, [this] { Run([this] { ZoomIn(window_); }); });
   cmdZoomOut_ = AddBarButton(fraButtonBar_, "cmdZoomOut", ZoomOutLeft, "Zoom Out");
   cmdZoomOut_->setIcon(ButtonIcon(ButtonPicture::ZoomOut));
-  connect(cmdZoomOut_, &QPushButton::clicked, this, [this] { Run([this] { ZoomOut(world_); }); });
+  connect(cmdZoomOut_, &QPushButton::clicked, this, [this] { Run([this] { ZoomOut(window_); }); });
   btnInfo_ = AddBarButton(fraButtonBar_, "btnInfo", InfoButtonLeft, "Toggle Info");
   btnInfo_->setIcon(ButtonIcon(ButtonPicture::Info));
-  connect(btnInfo_, &QPushButton::clicked, this, [this] { Run([this] { CloseInfoPanel(world_, layout_); }); });
+  connect(btnInfo_, &QPushButton::clicked, this, [this] { Run([this] { CloseInfoPanel(window_, layout_); }); });
   btnOdor_ = AddBarButton(fraButtonBar_, "btnOdor", OdorLeft, "");
   btnOdor_->setIcon(ButtonIcon(ButtonPicture::Odor));
-  connect(btnOdor_, &QPushButton::clicked, this, [this] { Run([this] { ToggleOdor(world_); }); });
+  connect(btnOdor_, &QPushButton::clicked, this, [this] { Run([this] { ToggleOdor(window_); }); });
   btnAnts_ = AddBarButton(fraButtonBar_, "btnAnts", AntsLeft, "");
   btnAnts_->setIcon(ButtonIcon(ButtonPicture::Ants));
-  connect(btnAnts_, &QPushButton::clicked, this, [this] { Run([this] { ToggleAnts(world_); }); });
+  connect(btnAnts_, &QPushButton::clicked, this, [this] { Run([this] { ToggleAnts(window_); }); });
 
   const char* quickTips[2] = {"Toggle Button Bar", "Toggle Info"};
   for (int i = 0; i < 2; ++i) {
@@ -145,7 +147,7 @@ void MainWindow::BuildButtonBar(QWidget* central) {
     quick->setObjectName(QString("btnQuick_%1").arg(i + 1));
     quick->setToolTip(quickTips[i]);
     quick->setFocusPolicy(Qt::NoFocus);
-    connect(quick, &QPushButton::clicked, this, [this, i] { Run([this, i] { QuickToggle(world_, layout_, i + 1); }); });
+    connect(quick, &QPushButton::clicked, this, [this, i] { Run([this, i] { QuickToggle(window_, layout_, i + 1); }); });
     btnQuick_[i] = quick;
   }
 }
@@ -164,14 +166,14 @@ void MainWindow::BuildPalette(QWidget* central) {
     button->setToolTip(tips[i]);
     button->setIcon(ButtonIcon(pictures[i]));
     button->setFocusPolicy(Qt::NoFocus);
-    connect(button, &QPushButton::clicked, this, [this, i] { Run([this, i] { SelectTool(world_, i); }); });
+    connect(button, &QPushButton::clicked, this, [this, i] { Run([this, i] { SelectTool(world_, window_, i); }); });
     btnAction_[i] = button;
   }
   btnPickAction_ = new QPushButton("v", central);
   btnPickAction_->setObjectName("btnPickAction");
   btnPickAction_->setToolTip("Show/Hide actions");
   btnPickAction_->setFocusPolicy(Qt::NoFocus);
-  connect(btnPickAction_, &QPushButton::clicked, this, [this] { Run([this] { TogglePalette(world_); }); });
+  connect(btnPickAction_, &QPushButton::clicked, this, [this] { Run([this] { TogglePalette(window_); }); });
 }
 
 void MainWindow::BuildTerrain(QWidget* central) {
@@ -212,10 +214,10 @@ void MainWindow::Run(Command command) {
   ShowControls();
 }
 
-void MainWindow::OnFileNew() { NewFromOptions(world_, random_); }
+void MainWindow::OnFileNew() { NewFromOptions(world_, window_, random_); }
 
 void MainWindow::OnOptions() {
-  OptionsDialog dialog(world_, this);
+  OptionsDialog dialog(world_, window_, this);
   options_ = &dialog;
   dialog.exec();
   ShowControls();
@@ -228,43 +230,40 @@ void MainWindow::OnAbout() {
 
 void MainWindow::TerrainMouse(int kind, int buttons, QPointF pixel) {
   if (!world_.HasWorld()) return;
-  const float x = static_cast<float>(world_.View.Terrain.Left + scale_.Twips(pixel.x()));
-  const float y = static_cast<float>(world_.View.Terrain.Top + scale_.Twips(pixel.y()));
+  const float x = static_cast<float>(window_.View.Terrain.Left + scale_.Twips(pixel.x()));
+  const float y = static_cast<float>(window_.View.Terrain.Top + scale_.Twips(pixel.y()));
   if (kind == Press) {
     // The press acts on the cell under the pointer, even without a move before it.
-    TerrainPointerMoved(world_, 0, x, y);
-    TerrainPointerPressed(world_, random_, buttons);
+    TerrainPointerMoved(world_, window_, 0, x, y);
+    TerrainPointerPressed(world_, window_, random_, buttons);
   } else if (kind == Move) {
-    TerrainPointerMoved(world_, buttons, x, y);
+    TerrainPointerMoved(world_, window_, buttons, x, y);
   } else {
-    TerrainPointerReleased(world_, buttons);
+    TerrainPointerReleased(window_, buttons);
   }
 }
 
 void MainWindow::MapMouse(bool release, int buttons, QPointF pixel) {
   if (!release && buttons == 0) return;
-  const ViewScale& map = world_.View.Map;
+  const ViewScale& map = window_.View.Map;
   const double x = map.Left + pixel.x() * map.Width / picMapa_->width();
   const double y = map.Top + pixel.y() * map.Height / picMapa_->height();
-  NavigateFromMap(world_, x, y);
+  NavigateFromMap(window_, x, y);
   ShowControls();
 }
 
 void MainWindow::ScrollBarMoved() {
   if (showing_) return;
-  SetHorizontalScroll(world_, hScroll1_->value());
-  SetVerticalScroll(world_, vScroll1_->value());
+  SetHorizontalScroll(window_, hScroll1_->value());
+  SetVerticalScroll(window_, vScroll1_->value());
   ShowControls();
 }
 
 void MainWindow::AdvanceTick() {
-  // The population-limit message is modal: the tick timer keeps firing inside it,
-  // and those ticks are skipped.
-  if (inTick_) return;
-  inTick_ = true;
-  TickContext context{world_, random_, canvases_.Painter(), messages_};
-  keldor::RunTick(context);
-  inTick_ = false;
+  // The population-limit message is modal: the tick timer keeps firing inside
+  // it, and those ticks are skipped.
+  if (!keldor::RunTick(tick_, TickInputOf(window_, world_))) return;
+  ShowPopulation(world_, window_);
   ++ticksRun_;
   ShowFrame();
   ResizeCanvases();
@@ -273,7 +272,7 @@ void MainWindow::AdvanceTick() {
 
 void MainWindow::ShowFrame() {
   picTerreno_->SetFrame(canvases_.Terrain().Image());
-  if (world_.Controls.InfoVisible) picMapa_->SetFrame(canvases_.Map().Image());
+  if (window_.View.InfoVisible) picMapa_->SetFrame(canvases_.Map().Image());
 }
 
 void MainWindow::resizeEvent(QResizeEvent* event) {
@@ -294,7 +293,7 @@ void MainWindow::DoResize() {
   const QSize client = centralWidget()->size();
   const double width = scale_.Twips(client.width()) + ClassicFrameWidth;
   const double height = scale_.Twips(client.height()) + ClassicFrameHeight;
-  ResizeWindow(world_, layout_, width, height);
+  ResizeWindow(window_, layout_, width, height);
   if (layout_.Width > width || layout_.Height > height) {
     const int growX = static_cast<int>(std::ceil((layout_.Width - width) / scale_.TwipsPerPixel()));
     const int growY = static_cast<int>(std::ceil((layout_.Height - height) / scale_.TwipsPerPixel()));
@@ -305,7 +304,7 @@ void MainWindow::DoResize() {
 }
 
 void MainWindow::ApplyLayout() {
-  const ControlState& c = world_.Controls;
+  const ControlState& c = window_.Controls;
   fraButtonBar_->setGeometry(scale_.Rect(layout_.ButtonBar));
   TwipRect actions = layout_.Actions;
   actions.Height = c.ActionsHeight;
@@ -320,7 +319,7 @@ void MainWindow::ApplyLayout() {
   fraButtonBar_->setVisible(c.ButtonBarVisible);
   fraActions_->setVisible(c.ButtonBarVisible);
   btnPickAction_->setVisible(c.ButtonBarVisible);
-  fraInfo_->setVisible(c.InfoVisible);
+  fraInfo_->setVisible(window_.View.InfoVisible);
   fraActions_->raise();
   btnPickAction_->raise();
 
@@ -330,13 +329,13 @@ void MainWindow::ApplyLayout() {
 void MainWindow::ResizeCanvases() {
   // A tick may be waiting inside the population-limit message, halfway
   // through its drawing: the canvases follow the boxes once it is done.
-  if (inTick_) return;
+  if (tick_.InProgress) return;
   canvases_.Resize(picTerreno_->size(), picMapa_->size());
 }
 
 void MainWindow::ShowControls() {
   showing_ = true;
-  const ControlState& c = world_.Controls;
+  const ControlState& c = window_.Controls;
   for (QWidget* w : {static_cast<QWidget*>(btnStop_), static_cast<QWidget*>(cmdZoomIn_),
                      static_cast<QWidget*>(cmdZoomOut_), static_cast<QWidget*>(btnOdor_),
                      static_cast<QWidget*>(btnAnts_), static_cast<QWidget*>(btnPickAction_)}) {
@@ -371,8 +370,8 @@ void MainWindow::ShowControls() {
   if (picTerreno_->cursor().shape() != cursor) picTerreno_->setCursor(cursor);
 
   mnuButtons_->setChecked(c.ButtonBarVisible);
-  mnuInfo_->setChecked(c.InfoVisible);
-  const bool shown[2] = {c.ButtonBarVisible, c.InfoVisible};
+  mnuInfo_->setChecked(window_.View.InfoVisible);
+  const bool shown[2] = {c.ButtonBarVisible, window_.View.InfoVisible};
   for (int i = 0; i < 2; ++i) {
     const QString css = "background-color: " + CssColour(QuickButtonColour(shown[i])) + "; border: 1px solid gray;";
     if (btnQuick_[i]->styleSheet() != css) btnQuick_[i]->setStyleSheet(css);
@@ -380,7 +379,7 @@ void MainWindow::ShowControls() {
   const QString population = QString::fromStdString(c.PopulationCaption);
   if (lblPop_->text() != population) lblPop_->setText(population);
 
-  const ScrollBar* bars[2] = {&world_.View.HScroll1, &world_.View.VScroll1};
+  const ScrollBar* bars[2] = {&window_.HScroll1, &window_.VScroll1};
   QScrollBar* widgets[2] = {hScroll1_, vScroll1_};
   for (int i = 0; i < 2; ++i) {
     widgets[i]->setRange(std::min(bars[i]->Min, bars[i]->Max), std::max(bars[i]->Min, bars[i]->Max));
@@ -389,8 +388,8 @@ void MainWindow::ShowControls() {
     widgets[i]->setValue(bars[i]->Value);
   }
 
-  if (world_.TimerEnabled && !timer_.isActive()) timer_.start();
-  if (!world_.TimerEnabled && timer_.isActive()) timer_.stop();
+  if (window_.TimerEnabled && !timer_.isActive()) timer_.start();
+  if (!window_.TimerEnabled && timer_.isActive()) timer_.stop();
   showing_ = false;
 }
 

@@ -12,8 +12,11 @@
 #include <memory>
 
 #include "model/Random.h"
-#include "model/WindowLayout.h"
+#include "window/WindowLayout.h"
 #include "model/World.h"
+#include "sim/Tick.h"
+#include "window/Commands.h"
+#include "window/WindowState.h"
 #include "platform/ViewCanvases.h"
 #include "ui/TwipScale.h"
 
@@ -43,6 +46,7 @@ class MainWindow : public QMainWindow {
   ~MainWindow() override;
 
   World& TheWorld() { return world_; }
+  WindowState& Window() { return window_; }
   const WindowLayout& Layout() const { return layout_; }
   TwipScale Scale() const { return scale_; }
   // Ticks run to completion so far.
@@ -83,13 +87,15 @@ class MainWindow : public QMainWindow {
   MessageBox& messages_;
   RandomSource random_;
   World world_;
+  WindowState window_;
+  PopulationLimitNotice populationLimit_{world_, window_, messages_};
   WindowLayout layout_;
   TwipScale scale_;
   std::unique_ptr<Registry> registry_;
   std::unique_ptr<ProgramStarter> starter_;
   ViewCanvases canvases_;
+  TickContext tick_;
   QTimer timer_;
-  bool inTick_ = false;
   bool showing_ = false;
   int ticksRun_ = 0;
   QPointer<OptionsDialog> options_;

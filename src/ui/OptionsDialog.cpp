@@ -40,7 +40,7 @@ QWidget* WithEndLabels(QSlider* slider, const char* minText, const char* maxText
 
 }  // namespace
 
-OptionsDialog::OptionsDialog(World& world, QWidget* parent) : QDialog(parent), form_(world) {
+OptionsDialog::OptionsDialog(World& world, WindowState& window, QWidget* parent) : QDialog(parent), form_(world, window) {
   setObjectName("frmOptions");
   setWindowTitle("Options");
   setModal(true);

@@ -8,7 +8,7 @@
 #include <array>
 #include <functional>
 
-#include "model/OptionsForm.h"
+#include "window/OptionsForm.h"
 
 class QFrame;
 class QLineEdit;
@@ -17,12 +17,13 @@ class QSlider;
 namespace keldor {
 
 struct World;
+struct WindowState;
 
 class OptionsDialog : public QDialog {
   Q_OBJECT
 
  public:
-  OptionsDialog(World& world, QWidget* parent = nullptr);
+  OptionsDialog(World& world, WindowState& window, QWidget* parent = nullptr);
   // A box that still has the focus loses it while the widgets go: that late
   // "editing finished" must not reach the form, which is already gone.
   ~OptionsDialog() override;

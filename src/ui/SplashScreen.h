@@ -7,7 +7,7 @@
 #include <QWidget>
 #include <functional>
 
-#include "model/SplashCounter.h"
+#include "window/SplashCounter.h"
 
 namespace keldor {
 

@@ -5,7 +5,7 @@
 
 #include <QRect>
 
-#include "model/WindowLayout.h"
+#include "window/WindowLayout.h"
 
 class QWidget;
 

@@ -15,7 +15,8 @@ namespace {
 using keldor::testing::TestWorld;
 
 QJsonObject RoundTrip(const World& w, int64_t tick) {
-  return QJsonDocument::fromJson(QJsonDocument(StateJson(w, tick)).toJson()).object();
+  const WindowState window;
+  return QJsonDocument::fromJson(QJsonDocument(StateJson(w, window, tick)).toJson()).object();
 }
 
 TEST(StateJsonTest, ContainersRoundTripWithTheirCountsAndFields) {

@@ -68,17 +68,6 @@ TEST(NumericTest, TextRules) {
   for (const auto& [value, pattern, text] : formats) EXPECT_EQ(Format(value, pattern), text) << value << pattern;
 }
 
-TEST(QueriesTest, CellAtPointAtColumnBorders) {
-  World w;
-  w.ZoomX = w.ZoomY = 10;
-  w.Settings.CellSize = 60;
-  EXPECT_EQ(CellAtPoint(w, 0, 0).X, 1);
-  EXPECT_EQ(CellAtPoint(w, 599.9, 0).X, 1);
-  EXPECT_EQ(CellAtPoint(w, 600, 0).X, 2);
-  EXPECT_EQ(CellAtPoint(w, -0.1, 0).X, 0);
-  EXPECT_EQ(CellAtPoint(w, 0, 1200).Y, 3);
-}
-
 TEST(QueriesTest, ObjectTypeNestCellAndMinMax) {
   World w;
   w.Cells.Reset(5, 5);

@@ -73,14 +73,14 @@ TEST(WorldCreationTest, GridTextRulesAndFoodRateExtremes) {
   EXPECT_EQ(TestWorld(1, {"1", "1", "3", 100}).world.Cells(1, 1).AntCount, 30);  // a one-cell world holds its nest
   // A text that is not a number keeps the grid of the last New.
   TestWorld t(1, {"12", "12", "3", 100});
-  NewWorld(t.world, t.random, {"abc", "abc", "3", 100});
+  NewWorld(t.world, t.window, t.random, {"abc", "abc", "3", 100});
   EXPECT_EQ(t.world.Cells.Columns(), 14);
 
   t.world.Settings.FoodRate = 0;
-  NewWorld(t.world, t.random, {});
+  NewWorld(t.world, t.window, t.random, {});
   EXPECT_EQ(t.world.FoodPileCount(), 0);
   t.world.Settings.FoodRate = 100;
-  NewWorld(t.world, t.random, {});
+  NewWorld(t.world, t.window, t.random, {});
   EXPECT_EQ(t.world.FoodPileCount(), 899);
 }
 
@@ -89,10 +89,8 @@ TEST(WorldCreationTest, CreatedNestsKeepTheirNamesAndTheLastNewRadius) {
   World& w = t.world;
   const double radius = w.Nests[0].Radius;
   w.Settings.AntSizeMm = 1.0;
-  w.CursorCellX = w.CursorCellY = 3;
-  ASSERT_TRUE(CreateNest(w, t.random));
-  w.CursorCellX = 5;
-  ASSERT_TRUE(CreateNest(w, t.random));
+  ASSERT_TRUE(CreateNest(w, t.random, 3, 3));
+  ASSERT_TRUE(CreateNest(w, t.random, 5, 3));
   EXPECT_EQ(w.Nests[1].Ants[0].Length, radius);
   EXPECT_DOUBLE_EQ(w.Nests[1].AntLength, 56.7);
   EXPECT_EQ(w.Nests[2].Name, "NEST_2");
@@ -104,8 +102,7 @@ TEST(WorldCreationTest, CreatedNestsKeepTheirNamesAndTheLastNewRadius) {
   EXPECT_EQ(w.Nests[0].CellX, 5);
   // A nest that would take the population past 32767 is refused.
   w.Settings.AntsPerNest = 32767;
-  w.CursorCellX = 2;
-  EXPECT_FALSE(CreateNest(w, t.random));
+  EXPECT_FALSE(CreateNest(w, t.random, 2, 3));
   EXPECT_EQ(w.NestCount, 2);
   EXPECT_EQ(w.Settings.Population, 90);
 }
@@ -131,28 +128,30 @@ TEST(SlotListTest, RemoveMovesTheLastItemInAndKeepsOneSpare) {
 
 TEST(CommandsTest, PlayPauseAndDisplayToggles) {
   World before;
-  StartUp(before);
-  ToggleOdor(before);  // no world yet: nothing to show
-  EXPECT_EQ(before.ShowOdor, 0);
+  WindowState beforeWindow;
+  StartUp(before, beforeWindow);
+  ToggleOdor(beforeWindow);  // no world yet: nothing to show
+  EXPECT_EQ(beforeWindow.View.ShowOdor, 0);
 
   TestWorld t;
   World& w = t.world;
-  w.Controls.PickActionCaption = "^";
-  TogglePlayPause(w);
+  WindowState& window = t.window;
+  window.Controls.PickActionCaption = "^";
+  TogglePlayPause(w, window);
   EXPECT_TRUE(w.Running);
-  EXPECT_EQ(w.Controls.StopImage, PlayPauseImage::Pause);
-  EXPECT_EQ(w.Controls.PickActionCaption, "v");
-  TogglePlayPause(w);
-  EXPECT_EQ(w.Controls.StopToolTip, "Play");
-  ToggleOdor(w);
-  EXPECT_EQ(w.ShowOdor, 1);
-  EXPECT_EQ(w.Controls.OdorToolTip, "Hide Odor Traces");
-  ToggleAnts(w);
-  EXPECT_EQ(w.ShowAnts, 0);
+  EXPECT_EQ(window.Controls.StopImage, PlayPauseImage::Pause);
+  EXPECT_EQ(window.Controls.PickActionCaption, "v");
+  TogglePlayPause(w, window);
+  EXPECT_EQ(window.Controls.StopToolTip, "Play");
+  ToggleOdor(window);
+  EXPECT_EQ(window.View.ShowOdor, 1);
+  EXPECT_EQ(window.Controls.OdorToolTip, "Hide Odor Traces");
+  ToggleAnts(window);
+  EXPECT_EQ(window.View.ShowAnts, 0);
   // New shows the ants again but leaves the ants tool tip as it was.
-  NewWorld(w, t.random, {});
-  EXPECT_EQ(w.ShowAnts, 1);
-  EXPECT_EQ(w.Controls.AntsToolTip, "Show ants");
+  NewWorld(w, window, t.random, {});
+  EXPECT_EQ(window.View.ShowAnts, 1);
+  EXPECT_EQ(window.Controls.AntsToolTip, "Show ants");
 }
 
 }  // namespace

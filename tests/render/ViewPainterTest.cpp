@@ -6,7 +6,7 @@
 #include <array>
 #include <cmath>
 
-#include "model/MessageBox.h"
+#include "window/WindowState.h"
 #include "model/Numeric.h"
 #include "render/ViewPainter.h"
 #include "sim/Tick.h"
@@ -68,9 +68,10 @@ class PainterTest : public ::testing::Test {
 
   TestWorld test;
   World& world = test.world;
+  ViewState& view = test.window.View;
   RecordingCanvas terrain;
   RecordingCanvas map;
-  ViewPainter painter{terrain, map};
+  ViewPainter painter{terrain, map, view};
 };
 
 void ExpectCall(const CanvasCall& c, CanvasOp op, double x1, double y1, double x2) {
@@ -85,7 +86,7 @@ void ExpectCall(const CanvasCall& c, CanvasOp op, double x1, double y1, double x
 class FrameTest : public PainterTest {
  protected:
   void SetUp() override {
-    world.ShowOdor = 1;
+    view.ShowOdor = 1;
     SetCell(15, 14, 20, 2, Rgb(150, 190, 130));
     SetCell(14, 15, -60, 0, Rgb(170, 150, 120));
     AddWall(17, 15);
@@ -103,15 +104,13 @@ class FrameTest : public PainterTest {
 };
 
 TEST_F(FrameTest, TickDrawsTheTerrainLayersInPhaseOrder) {
-  struct : MessageBox {
-    void Show(const std::string&) override {}
-  } messages;
-  TickContext context{world, test.random, painter, messages};
+  IgnoredTickEvents events;
+  TickContext context{world, test.random, painter, events};
   world.Cells(16, 16).Food = 20000;  // the tick drops piles whose cell holds no food
   for (int16_t ants : {1, 0}) {
     ForgetCalls();
-    world.ShowAnts = ants;
-    RunTick(context);
+    view.ShowAnts = ants;
+    RunTick(context, TickInputOf(test.window, world));
     std::vector<Layer> order;
     for (const CanvasCall& c : terrain.Drawing()) {
       const Layer layer = LayerOf(c);
@@ -124,7 +123,7 @@ TEST_F(FrameTest, TickDrawsTheTerrainLayersInPhaseOrder) {
 }
 
 TEST_F(FrameTest, NumbersOfAFrame) {
-  PaintFrame(world, painter);
+  PaintFrame(world, view, painter);
   const std::string nestAnts = CStr(world.Cells(15, 15).AntCount);
   // Cell (14,15): scent 60, no ants; cell (15,14): 20 and 2; the nest cell:
   // its ants in black, then again in yellow; the pile cell in yellow; the label.
@@ -132,8 +131,8 @@ TEST_F(FrameTest, NumbersOfAFrame) {
 }
 
 TEST_F(FrameTest, HiddenInfoPanelLeavesOnlyWallsOnTheMiniMap) {
-  world.Controls.InfoVisible = false;
-  PaintFrame(world, painter);
+  view.InfoVisible = false;
+  PaintFrame(world, view, painter);
   const auto drawn = map.Drawing();
   ASSERT_EQ(drawn.size(), 1u);
   EXPECT_EQ(drawn[0].Op, CanvasOp::Box);
@@ -141,18 +140,18 @@ TEST_F(FrameTest, HiddenInfoPanelLeavesOnlyWallsOnTheMiniMap) {
 }
 
 TEST_F(FrameTest, CursorCellIsOutlinedTwiceAsThickAndThePenIsRestored) {
-  world.Settings.CurrentTool = WallTool;
-  world.Settings.ToolColour = Rgb(0, 200, 0);
-  world.MouseX = 15.5f * static_cast<float>(Size() * world.ZoomX);
-  world.MouseY = 14.5f * static_cast<float>(Size() * world.ZoomY);
-  PaintFrame(world, painter);
+  view.CurrentTool = WallTool;
+  view.ToolColour = Rgb(0, 200, 0);
+  view.MouseX = 15.5f * static_cast<float>(Size() * view.ZoomX);
+  view.MouseY = 14.5f * static_cast<float>(Size() * view.ZoomY);
+  PaintFrame(world, view, painter);
   const auto boxes = terrain.Of(CanvasOp::Box);
   const CanvasCall& border = boxes[boxes.size() - 2];
   EXPECT_EQ(border.Colour, Blue);
   EXPECT_EQ(border.Pen.Fill, FillStyle::Transparent);
-  EXPECT_DOUBLE_EQ(border.X2, world.View.Map.Width * world.ZoomX);
+  EXPECT_DOUBLE_EQ(border.X2, view.Map.Width * view.ZoomX);
   const CanvasCall& cursor = boxes.back();
-  const double side = Size() * world.ZoomX;
+  const double side = Size() * view.ZoomX;
   ExpectCall(cursor, CanvasOp::Box, 15 * side, 14 * side, 16 * side);
   EXPECT_EQ(cursor.Colour, Rgb(0, 200, 0));
   EXPECT_EQ(cursor.Pen.DrawWidth, 2);
@@ -164,14 +163,14 @@ TEST_F(FrameTest, CursorCellIsOutlinedTwiceAsThickAndThePenIsRestored) {
 }
 
 TEST_F(FrameTest, ZoomLabelAtTheTopLeftCornerInBlueAtSize8) {
-  world.View.TerrainFontSize = 3;
-  PaintFrame(world, painter);
+  view.TerrainFontSize = 3;
+  PaintFrame(world, view, painter);
   const CanvasCall& label = terrain.Calls.back();
   EXPECT_EQ(label.Pen.FontSize, 8);
   EXPECT_EQ(label.Pen.ForeColor, Blue);
   EXPECT_EQ(terrain.Pen.FontSize, 3);
   for (const auto& [zoom, text] : {std::pair{11, "ZOOM: 1.1X"}, {20, "ZOOM: 2.X"}}) {
-    world.ZoomX = world.ZoomY = zoom;
+    view.ZoomX = view.ZoomY = zoom;
     painter.DrawZoomLabel(world);
     EXPECT_EQ(terrain.Calls.back().Text, text);
   }
@@ -179,28 +178,26 @@ TEST_F(FrameTest, ZoomLabelAtTheTopLeftCornerInBlueAtSize8) {
 
 TEST_F(FrameTest, RealTicksResetABittenAntsColourOnlyOnceDrawnAndLeaveThePenAtRest) {
   int frames = 0;
-  ViewPainter shown(terrain, map, [&frames] { ++frames; });
-  struct : MessageBox {
-    void Show(const std::string&) override {}
-  } messages;
-  TickContext context{world, test.random, shown, messages};
-  world.Settings.CurrentTool = WallTool;
-  world.View.TerrainFontSize = 4;
+  ViewPainter shown(terrain, map, view, [&frames] { ++frames; });
+  IgnoredTickEvents events;
+  TickContext context{world, test.random, shown, events};
+  view.CurrentTool = WallTool;
+  view.TerrainFontSize = 4;
   Nest& nest = world.Nests[0];
   nest.Ants[1].Colour = Red;
-  world.ShowAnts = 0;
-  RunTick(context);
+  view.ShowAnts = 0;
+  RunTick(context, TickInputOf(test.window, world));
   EXPECT_EQ(nest.Ants[1].Colour, Red) << "a hidden ant keeps its bite colour";
-  world.ShowAnts = 1;
+  view.ShowAnts = 1;
   ForgetCalls();
-  RunTick(context);
+  RunTick(context, TickInputOf(test.window, world));
   EXPECT_EQ(nest.Ants[1].Colour, nest.Colour);
   const auto circles = terrain.Of(CanvasOp::Circle);
   EXPECT_TRUE(std::any_of(circles.begin(), circles.end(), [](const CanvasCall& c) { return c.Pen.FillColor == Red; }))
       << "drawn red once";
   EXPECT_EQ(frames, 2);
-  EXPECT_EQ(terrain.Scale.Left, world.View.Terrain.Left);
-  EXPECT_EQ(map.Scale.Width, world.View.Map.Width);
+  EXPECT_EQ(terrain.Scale.Left, view.Terrain.Left);
+  EXPECT_EQ(map.Scale.Width, view.Map.Width);
   for (const RecordingCanvas* view : {&terrain, &map}) {
     EXPECT_EQ(view->Pen.Fill, FillStyle::Solid);
     EXPECT_EQ(view->Pen.DrawWidth, 1);
@@ -211,7 +208,7 @@ TEST_F(FrameTest, RealTicksResetABittenAntsColourOnlyOnceDrawnAndLeaveThePenAtRe
 // ---- Cells
 
 TEST_F(PainterTest, VisibleCellIsAColouredSquareOnBothViewsWithScentAndAntCount) {
-  world.ShowOdor = 1;
+  view.ShowOdor = 1;
   map.Pen.Fill = FillStyle::Transparent;
   painter.DrawCell(world, SetCell(15, 14, -40.7, 3));
   const double x0 = 14 * Size(), y0 = 13 * Size(), x1 = 15 * Size();
@@ -232,7 +229,7 @@ TEST_F(PainterTest, VisibleCellIsAColouredSquareOnBothViewsWithScentAndAntCount)
 }
 
 TEST_F(PainterTest, CellNumbersFollowScentFoodAndTheOdorButton) {
-  world.ShowOdor = 1;
+  view.ShowOdor = 1;
   const struct {
     double scent;
     int16_t ants;
@@ -246,7 +243,7 @@ TEST_F(PainterTest, CellNumbersFollowScentFoodAndTheOdorButton) {
     EXPECT_EQ(Printed(), c.texts) << c.scent;
   }
   ForgetCalls();
-  world.ShowOdor = 0;  // hidden odor only sets the fill colour of both views
+  view.ShowOdor = 0;  // hidden odor only sets the fill colour of both views
   painter.DrawCell(world, SetCell(15, 15, -40, 3));
   EXPECT_TRUE(terrain.Calls.empty() && map.Calls.empty());
   EXPECT_EQ(terrain.Pen.FillColor, Ochre);
@@ -254,8 +251,8 @@ TEST_F(PainterTest, CellNumbersFollowScentFoodAndTheOdorButton) {
 }
 
 TEST_F(PainterTest, CulledSquaresAreNotDrawnOnTheTerrain) {
-  world.ShowOdor = 1;
-  const double rightEdge = 10 * Size() * world.ZoomX;  // where cell column 10 ends
+  view.ShowOdor = 1;
+  const double rightEdge = 10 * Size() * view.ZoomX;  // where cell column 10 ends
   const struct {
     ViewScale view;
     bool drawn;
@@ -264,7 +261,7 @@ TEST_F(PainterTest, CulledSquaresAreNotDrawnOnTheTerrain) {
                {{9 * Size() * 10 + 10, 14 * Size() * 10 + 10, 100, 100}, false}};  // the cell holds the whole view
   for (const auto& c : cases) {
     ForgetCalls();
-    world.View.Terrain = c.view;
+    view.Terrain = c.view;
     painter.DrawCell(world, SetCell(10, 15, 5, 1));
     EXPECT_EQ(terrain.Of(CanvasOp::Box).size(), c.drawn ? 1u : 0u) << c.view.Left;
     EXPECT_EQ(map.Of(CanvasOp::Box).size(), 1u) << "the mini-map shows every cell";
@@ -274,7 +271,7 @@ TEST_F(PainterTest, CulledSquaresAreNotDrawnOnTheTerrain) {
 // ---- Walls, nests and food piles
 
 TEST_F(PainterTest, WallsReachTheMiniMapEvenWithTheInfoPanelHidden) {
-  world.Controls.InfoVisible = false;
+  view.InfoVisible = false;
   terrain.Pen.FillColor = Rgb(1, 2, 3);
   AddWall(15, 15);  // visible
   AddWall(1, 1);    // outside the terrain view
@@ -292,7 +289,7 @@ TEST_F(PainterTest, WallsReachTheMiniMapEvenWithTheInfoPanelHidden) {
 }
 
 TEST_F(PainterTest, NestIsAGreyDiscWithItsCellNumbersInYellowEvenOffTheView) {
-  world.ShowOdor = 1;
+  view.ShowOdor = 1;
   const Nest& nest = world.Nests[0];
   world.Cells(nest.CellX, nest.CellY).Scent = -249.5;
   painter.DrawNests(world);
@@ -302,7 +299,7 @@ TEST_F(PainterTest, NestIsAGreyDiscWithItsCellNumbersInYellowEvenOffTheView) {
   EXPECT_EQ(mapCircles[0].Pen.FillColor, Grey);
   const auto calls = terrain.Calls;
   ASSERT_EQ(calls.size(), 3u);
-  ExpectCall(calls[0], CanvasOp::Circle, nest.X * 10, nest.Y * 10, nest.Radius * world.ZoomX / 10);
+  ExpectCall(calls[0], CanvasOp::Circle, nest.X * 10, nest.Y * 10, nest.Radius * view.ZoomX / 10);
   EXPECT_EQ(calls[0].Colour, Grey);
   EXPECT_EQ(calls[1].Text, "250");  // the nest scent rounds away from zero
   EXPECT_EQ(calls[1].Pen.ForeColor, Yellow);
@@ -310,10 +307,10 @@ TEST_F(PainterTest, NestIsAGreyDiscWithItsCellNumbersInYellowEvenOffTheView) {
   EXPECT_EQ(terrain.Pen.ForeColor, Black);
 
   world.Cells(nest.CellX, nest.CellY).Scent = 0;
-  world.View.Terrain.Left = world.View.Terrain.Top = 0;
+  view.Terrain.Left = view.Terrain.Top = 0;
   for (int odor : {1, 0}) {
     ForgetCalls();
-    world.ShowOdor = static_cast<int16_t>(odor);
+    view.ShowOdor = static_cast<int16_t>(odor);
     painter.DrawNests(world);
     EXPECT_TRUE(terrain.Of(CanvasOp::Circle).empty());
     EXPECT_EQ(terrain.Of(CanvasOp::Print).size(), odor == 1 ? 1u : 0u) << "scent 0: only the ant count";
@@ -321,7 +318,7 @@ TEST_F(PainterTest, NestIsAGreyDiscWithItsCellNumbersInYellowEvenOffTheView) {
 }
 
 TEST_F(PainterTest, FoodPileDiscAreaIsItsAmount) {
-  world.ShowOdor = 1;
+  view.ShowOdor = 1;
   OnlyPile(15, 16, 40000);
   SetCell(15, 16, 77.2, 4);
   painter.DrawFoodPiles(world);
@@ -332,7 +329,7 @@ TEST_F(PainterTest, FoodPileDiscAreaIsItsAmount) {
   EXPECT_EQ(mapCircles[0].Pen.FillColor, Green);
   const auto calls = terrain.Calls;
   ASSERT_EQ(calls.size(), 3u);
-  ExpectCall(calls[0], CanvasOp::Circle, cx * 10, cy * 10, r * world.ZoomX / 10);
+  ExpectCall(calls[0], CanvasOp::Circle, cx * 10, cy * 10, r * view.ZoomX / 10);
   EXPECT_EQ(calls[0].Colour, Black);
   EXPECT_EQ(calls[0].Pen.FillColor, Green);
   EXPECT_EQ(calls[1].Text, "77");
@@ -341,14 +338,14 @@ TEST_F(PainterTest, FoodPileDiscAreaIsItsAmount) {
 }
 
 TEST_F(PainterTest, EmptyPilesAndHiddenPileNumbersAreSkipped) {
-  world.ShowOdor = 1;
+  view.ShowOdor = 1;
   OnlyPile(15, 15, 0);
   painter.DrawFoodPiles(world);
   EXPECT_TRUE(terrain.Calls.empty());
   EXPECT_TRUE(map.Calls.empty());
   // Text anchors left of the view: the disc is partly visible, no numbers.
   OnlyPile(10, 15, 100000);
-  world.View.Terrain.Left = 9 * Size() * 10 + 14 * Size() / 20 * 10 + 1;
+  view.Terrain.Left = 9 * Size() * 10 + 14 * Size() / 20 * 10 + 1;
   painter.DrawFoodPiles(world);
   EXPECT_EQ(terrain.Of(CanvasOp::Circle).size(), 1u);
   EXPECT_TRUE(terrain.Of(CanvasOp::Print).empty());
@@ -359,8 +356,8 @@ TEST_F(PainterTest, EmptyPilesAndHiddenPileNumbersAreSkipped) {
 class AntFigureTest : public PainterTest {
  protected:
   void SetUp() override {
-    world.ZoomX = world.ZoomY = 20;  // radii scale by ZoomX / ScaleX = 2
-    world.View.Terrain = {0, 0, 40000, 40000};
+    view.ZoomX = view.ZoomY = 20;  // radii scale by ZoomX / ScaleX = 2
+    view.Terrain = {0, 0, 40000, 40000};
     PainterTest::SetUp();
   }
   // Places ant index of the default nest with rear R and head H (world units).
@@ -426,7 +423,7 @@ TEST_F(AntFigureTest, AntIsCulledOnlyWhenRearAndHeadAreBothHidden) {
   } cases[] = {{0, 128 * 20, 3}, {100 * 20, 40000, 3}, {128 * 20, 40000, 0}};  // head on the edge; rear; both
   for (const auto& c : cases) {
     ForgetCalls();
-    world.View.Terrain = {c.left, 0, c.width, 40000};
+    view.Terrain = {c.left, 0, c.width, 40000};
     painter.DrawAnt(world, world.Nests[0], 1);
     EXPECT_EQ(terrain.Of(CanvasOp::Circle).size(), c.circles) << c.left;
     EXPECT_EQ(map.Of(CanvasOp::Circle).size(), 1u);

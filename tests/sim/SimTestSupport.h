@@ -1,4 +1,4 @@
-// Shared helpers for the tick tests: a recording message box, a ready-to-tick
+// Shared helpers for the tick tests: recorded tick events, a ready-to-tick
 // world, and the bookkeeping a world must keep.
 #pragma once
 
@@ -7,48 +7,50 @@
 #include <string>
 #include <vector>
 
-#include "model/MessageBox.h"
 #include "model/World.h"
 #include "model/WorldCreation.h"
 #include "sim/Tick.h"
 #include "sim/TickPainter.h"
 #include "support/TestWorld.h"
+#include "window/Commands.h"
+#include "window/WindowState.h"
 
 namespace keldor::testing {
 
-// Records every message; while "open" it runs a nested tick, which must not start.
-class RecordingMessageBox : public MessageBox {
+// Answers the population limit as the window does (Play/Pause pressed) and
+// counts it; while "open" it runs a nested tick, which must not start.
+class RecordingEvents : public TickEvents {
  public:
-  std::vector<std::string> Shown;
+  RecordingEvents(World& world, WindowState& window) : world_(world), window_(window) {}
+  int LimitsReached = 0;
   TickContext* Reenter = nullptr;
   bool NestedTickStarted = false;
-  void Show(const std::string& text) override {
-    Shown.push_back(text);
-    if (Reenter == nullptr) return;
-    const std::string before = Reenter->world.Controls.PopulationCaption;
-    Reenter->world.Controls.PopulationCaption = "marker";
-    RunTick(*Reenter);
-    NestedTickStarted = Reenter->world.Controls.PopulationCaption != "marker";
-    Reenter->world.Controls.PopulationCaption = before;
+  void PopulationLimitReached() override {
+    ++LimitsReached;
+    if (Reenter != nullptr) NestedTickStarted = RunTick(*Reenter, TickInputOf(window_, world_));
+    TogglePlayPause(world_, window_);
   }
+
+ private:
+  World& world_;
+  WindowState& window_;
 };
 
-// A test world with its own painter and message box, ready to tick.
+// A test world with its own painter and event recorder, ready to tick.
 struct TickRig {
   explicit TickRig(uint64_t seed = 1) : test(seed) {}
   TestWorld test;
   NullPainter nullPainter;
-  RecordingMessageBox messages;
-  TickContext context{test.world, test.random, nullPainter, messages};
+  RecordingEvents events{test.world, test.window};
+  TickContext context{test.world, test.random, nullPainter, events};
   World& world() { return test.world; }
+  WindowState& window() { return test.window; }
   void Tick() {
     test.clock.Advance(0.075);
-    RunTick(context);
+    RunTick(context, TickInputOf(test.window, test.world));
   }
   void AddNestAt(int x, int y) {
-    world().CursorCellX = static_cast<int16_t>(x);
-    world().CursorCellY = static_cast<int16_t>(y);
-    ASSERT_TRUE(CreateNest(world(), test.random));
+    ASSERT_TRUE(CreateNest(world(), test.random, static_cast<int16_t>(x), static_cast<int16_t>(y)));
   }
 };
 

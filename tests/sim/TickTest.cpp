@@ -61,36 +61,28 @@ TEST(Tick, ScentColourSpansItsRanges) {
   for (const auto& c : cases) EXPECT_EQ(ScentColour(c.scent, 500, 250), c.colour) << c.scent;
 }
 
-TEST(Population, LimitMessageOnlyAtExactly2000AndNoNestedTick) {
+TEST(Population, LimitOnlyAtExactly2000PausesBeforeBirthsAndStartsNoNestedTick) {
   TickRig rig;
   World& world = rig.world();
-  rig.messages.Reenter = &rig.context;
   world.Settings.Population = 1999;
-  CheckPopulationLimit(world, rig.messages);
-  EXPECT_TRUE(rig.messages.Shown.empty());
-  world.Running = true;
+  EXPECT_FALSE(PopulationAtLimit(world));
   world.Settings.Population = 2000;
-  world.TickInProgress = true;
-  CheckPopulationLimit(world, rig.messages);
-  world.TickInProgress = false;
-  ASSERT_EQ(rig.messages.Shown, std::vector<std::string>{"Maximum ant population has been reached."});
-  EXPECT_FALSE(rig.messages.NestedTickStarted);
-  EXPECT_FALSE(world.Running);
-  rig.messages.Reenter = nullptr;
-  CheckPopulationLimit(world, rig.messages);
-  EXPECT_TRUE(world.Running) << "the pause button is pressed again";
+  EXPECT_TRUE(PopulationAtLimit(world));
 
-  // Reached inside a whole tick: the message stops that tick's births too.
-  rig.messages.Shown.clear();
-  rig.messages.Reenter = &rig.context;
+  // Reached inside a whole tick: the pause stops that tick's births too.
+  rig.events.Reenter = &rig.context;
+  world.Running = true;
   Nest& nest = world.Nests[0];
   nest.FoodStore = 3 * nest.AntUnit;
   const int16_t before = nest.AntCount();
   rig.Tick();
-  EXPECT_EQ(rig.messages.Shown.size(), 1u);
-  EXPECT_FALSE(rig.messages.NestedTickStarted);
+  EXPECT_EQ(rig.events.LimitsReached, 1);
+  EXPECT_FALSE(rig.events.NestedTickStarted);
   EXPECT_FALSE(world.Running);
   EXPECT_EQ(world.Nests[0].AntCount(), before);
+  rig.Tick();
+  EXPECT_EQ(rig.events.LimitsReached, 2) << "reported again while it stays at 2000";
+  EXPECT_TRUE(world.Running) << "the pause button is pressed again";
 }
 
 TEST(Population, ThreeBirthsFromThreeAndAHalfUnits) {

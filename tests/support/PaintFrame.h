@@ -4,11 +4,12 @@
 #pragma once
 
 #include "model/World.h"
+#include "render/ViewState.h"
 #include "sim/TickPainter.h"
 
 namespace keldor::testing {
 
-inline void PaintFrame(const World& world, TickPainter& painter) {
+inline void PaintFrame(const World& world, const ViewState& view, TickPainter& painter) {
   painter.ClearViews(world);
   for (int x = 1; x <= world.Settings.GridX; ++x) {
     for (int y = 1; y <= world.Settings.GridY; ++y) {
@@ -19,7 +20,7 @@ inline void PaintFrame(const World& world, TickPainter& painter) {
   painter.DrawWalls(world);
   painter.DrawNests(world);
   painter.DrawFoodPiles(world);
-  if (world.ShowAnts == 1) {
+  if (view.ShowAnts == 1) {
     for (int16_t n = 0; n < world.NestCount; ++n) {
       const Nest& nest = world.Nests[static_cast<size_t>(n)];
       for (int16_t a = 0; a < nest.AntCount(); ++a) painter.DrawAnt(world, nest, a);

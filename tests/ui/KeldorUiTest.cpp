@@ -12,10 +12,10 @@
 #include <QtTest>
 #include <functional>
 
-#include "model/MessageBox.h"
+#include "window/MessageBox.h"
 #include "model/Queries.h"
 #include "model/Random.h"
-#include "model/SystemInfo.h"
+#include "window/SystemInfo.h"
 #include "platform/NoRegistry.h"
 #include "ui/PictureBox.h"
 #include "ui/AboutBox.h"
@@ -148,17 +148,17 @@ class KeldorUiTest : public QObject {
 
   void odorAndAntsToggles() {
     Click(W(), "btnStart");
-    World& w = window_->TheWorld();
+    const ViewState& v = window_->Window().View;
     QCOMPARE(Child<QPushButton>(W(), "btnOdor")->toolTip(), QString("Odor Traces"));
     const auto press = [&](const char* button, const int16_t& shown, int expected, const char* tip) {
       Click(W(), button);
       QCOMPARE(int(shown), expected);
       QCOMPARE(Child<QPushButton>(W(), button)->toolTip(), QString(tip));
     };
-    press("btnOdor", w.ShowOdor, 1, "Hide Odor Traces");
-    press("btnOdor", w.ShowOdor, 0, "Show Odor Traces");
-    press("btnAnts", w.ShowAnts, 0, "Show ants");
-    press("btnAnts", w.ShowAnts, 1, "Hide ants");
+    press("btnOdor", v.ShowOdor, 1, "Hide Odor Traces");
+    press("btnOdor", v.ShowOdor, 0, "Show Odor Traces");
+    press("btnAnts", v.ShowAnts, 0, "Show ants");
+    press("btnAnts", v.ShowAnts, 1, "Hide ants");
   }
 
   void paletteExpandsAndCollapses() {
@@ -176,7 +176,7 @@ class KeldorUiTest : public QObject {
     Click(palette, "btnAction_2");
     QCOMPARE(pick->text(), QString("v"));
     QCOMPARE(palette->height(), collapsed);
-    QCOMPARE(window_->TheWorld().Settings.CurrentTool, int16_t{2});
+    QCOMPARE(window_->Window().View.CurrentTool, WallTool);
     QVERIFY(Child<QWidget>(palette, "btnAction_2")->y() < collapsed);
     QCOMPARE(Child<QWidget>(W(), "picTerreno")->cursor().shape(), Qt::CrossCursor);
     Click(W(), "btnPickAction");
@@ -203,15 +203,15 @@ class KeldorUiTest : public QObject {
 
   void hidingThePanelKeepsTheCentreAndScrollBarsFollowTheModel() {
     Click(W(), "btnStart");
-    World& w = window_->TheWorld();
+    WindowState& w = window_->Window();
     Click(W(), "cmdZoomIn");
     Click(W(), "cmdZoomIn");
     auto* map = Child<PictureBox>(W(), "picMapa");
-    const int16_t before = w.View.HScroll1.Value;
+    const int16_t before = w.HScroll1.Value;
     QTest::mouseMove(map, QPoint(5, 5));
-    QCOMPARE(w.View.HScroll1.Value, before);  // pointing needs a held button
+    QCOMPARE(w.HScroll1.Value, before);  // pointing needs a held button
     QTest::mouseClick(map, Qt::LeftButton, {}, QPoint(map->width() * 2 / 3, map->height() / 2));
-    QVERIFY(w.View.HScroll1.Value != before);
+    QVERIFY(w.HScroll1.Value != before);
     const float cx = w.ViewCentreX, cy = w.ViewCentreY;
     auto* view = Child<QWidget>(W(), "picTerreno");
     const int width = view->width();
@@ -222,10 +222,10 @@ class KeldorUiTest : public QObject {
     QVERIFY(std::abs(w.ViewCentreX - cx) <= 1.0f / 12);
     QVERIFY(std::abs(w.ViewCentreY - cy) <= 1.0f / 12);
     auto* bar = Child<QScrollBar>(W(), "HScroll1");
-    QCOMPARE(bar->value(), int(w.View.HScroll1.Value));
+    QCOMPARE(bar->value(), int(w.HScroll1.Value));
     const double left = w.View.Terrain.Left;
     bar->triggerAction(QAbstractSlider::SliderPageStepAdd);
-    QCOMPARE(int(w.View.HScroll1.Value), bar->value());
+    QCOMPARE(int(w.HScroll1.Value), bar->value());
     QVERIFY(w.View.Terrain.Left > left);
     Child<QAction>(W(), "mnuInfo")->trigger();
     QVERIFY(Child<QWidget>(W(), "fraInfo")->isVisible());
@@ -345,18 +345,17 @@ class KeldorUiTest : public QObject {
   }
 
   void theTickReadsTheNestSliderWhileOpen() {
-    World& w = window_->TheWorld();
     int valueWhileShown = 0;
     OpenOptions([&](QWidget* dialog) {
       Child<QSlider>(dialog, "sliNestTrace")->setValue(77);
-      valueWhileShown = w.OptionsOpen ? w.NestTraceValue() : -1;
+      valueWhileShown = TickInputOf(window_->Window(), window_->TheWorld()).NestTraceSlider.value_or(-1);
     });
     QCOMPARE(valueWhileShown, 77);
-    QVERIFY(!w.OptionsOpen);
+    QVERIFY(!TickInputOf(window_->Window(), window_->TheWorld()).NestTraceSlider);
   }
 
   void destroyingTheDialogWhileABoxHasTheFocus() {
-    auto* dialog = new OptionsDialog(window_->TheWorld(), W());
+    auto* dialog = new OptionsDialog(window_->TheWorld(), window_->Window(), W());
     dialog->show();
     dialog->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(dialog));
@@ -365,7 +364,7 @@ class KeldorUiTest : public QObject {
     QTest::keyClicks(box, "5");
     QTRY_VERIFY(box->hasFocus());
     delete dialog;
-    QVERIFY(!window_->TheWorld().OptionsOpen);
+    QVERIFY(!window_->Window().OptionsOpen);
   }
 
   void closingTheMainWindowClosesTheDialog() {
@@ -373,7 +372,7 @@ class KeldorUiTest : public QObject {
     Child<QAction>(W(), "mnuOptions")->trigger();
     QVERIFY(QApplication::activeModalWidget() == nullptr);
     QVERIFY(!window_->isVisible());
-    QVERIFY(!window_->TheWorld().OptionsOpen);
+    QVERIFY(!window_->Window().OptionsOpen);
   }
 
   // ---- Splash and About
@@ -420,10 +419,11 @@ class KeldorUiTest : public QObject {
 
   // The pixel at the middle of cell (x, y) of the terrain view.
   QPoint PixelOfCell(int x, int y) const {
-    const World& w = window_->TheWorld();
+    const double cellSize = window_->TheWorld().Settings.CellSize;
+    const ViewState& v = window_->Window().View;
     const double perPixel = window_->Scale().TwipsPerPixel();
-    return QPoint(int(((x - 0.5) * w.Settings.CellSize * w.ZoomX - w.View.Terrain.Left) / perPixel),
-                  int(((y - 0.5) * w.Settings.CellSize * w.ZoomY - w.View.Terrain.Top) / perPixel));
+    return QPoint(int(((x - 0.5) * cellSize * v.ZoomX - v.Terrain.Left) / perPixel),
+                  int(((y - 0.5) * cellSize * v.ZoomY - v.Terrain.Top) / perPixel));
   }
 
   void Drag(QPoint from, QPoint to, Qt::MouseButton button) {

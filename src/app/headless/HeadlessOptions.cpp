@@ -6,7 +6,7 @@
 #include <QCommandLineParser>
 
 #include "model/Numeric.h"
-#include "model/OptionsForm.h"
+#include "window/OptionsForm.h"
 #include "model/WorldCreation.h"
 
 namespace keldor::headless {

@@ -12,7 +12,7 @@
 #include <QString>
 #include <QStringList>
 
-#include "model/Viewport.h"
+#include "render/ViewState.h"
 
 namespace keldor::headless {
 

@@ -16,6 +16,8 @@
 #include "app/headless/WorldSetup.h"
 #include "model/Random.h"
 #include "model/World.h"
+#include "window/Commands.h"
+#include "window/WindowState.h"
 #include "platform/SystemClock.h"
 #include "platform/ViewCanvases.h"
 #include "sim/TickPainter.h"
@@ -54,7 +56,8 @@ int RunHeadless(const QStringList& arguments, std::ostream& out, std::ostream& e
   if (options.Seed) virtualClock.emplace(*options.Seed);
   RandomSource random(virtualClock ? static_cast<Clock&>(*virtualClock) : systemClock);
   World world;
-  if (const auto problem = BuildWorld(world, random, options)) return Fail(err, *problem, ExitBadArguments);
+  WindowState window;
+  if (const auto problem = BuildWorld(world, window, random, options)) return Fail(err, *problem, ExitBadArguments);
 
   OutputFiles files;
   if (const auto problem = files.Open(options)) return Fail(err, *problem, ExitBadArguments);
@@ -62,13 +65,14 @@ int RunHeadless(const QStringList& arguments, std::ostream& out, std::ostream& e
   if (files.Csv() != nullptr) csv.emplace(*files.Csv());
 
   StreamMessageBox messages(err);
+  PopulationLimitNotice populationLimit(world, window, messages);
   // Every tick clears both views and draws them whole, so drawing only the
   // last tick gives the frame the window shows after it.
   NullPainter noDrawing;
   std::optional<ViewCanvases> views;
-  if (files.Png() != nullptr) views.emplace(QSize(options.View.Width, options.View.Height), MapBoxPixels());
+  if (files.Png() != nullptr) views.emplace(QSize(options.View.Width, options.View.Height), MapBoxPixels(), window.View);
   TickPainter& lastTickPainter = views ? static_cast<TickPainter&>(views->Painter()) : noDrawing;
-  const TickLoop loop{world, random, messages, virtualClock ? &*virtualClock : nullptr};
+  const TickLoop loop{world, window, random, populationLimit, virtualClock ? &*virtualClock : nullptr};
   const auto start = std::chrono::steady_clock::now();
   RunTicks(loop, options.Ticks, noDrawing, lastTickPainter, [&](int64_t tick) {
     if (csv) csv->WriteRow(tick, world);
@@ -79,7 +83,7 @@ int RunHeadless(const QStringList& arguments, std::ostream& out, std::ostream& e
     return Fail(err, "--csv: writing '" + options.CsvPath.toStdString() + "' failed", ExitWriteFailed);
   }
   if (QFile* json = files.Json()) {
-    if (json->write(QJsonDocument(StateJson(world, options.Ticks)).toJson()) < 0 || !json->flush()) {
+    if (json->write(QJsonDocument(StateJson(world, window, options.Ticks)).toJson()) < 0 || !json->flush()) {
       return Fail(err, "--json: writing '" + options.JsonPath.toStdString() + "' failed", ExitWriteFailed);
     }
   }

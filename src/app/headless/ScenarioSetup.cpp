@@ -5,6 +5,7 @@
 #include "model/World.h"
 #include "model/WorldCreation.h"
 #include "sim/Editing.h"
+#include "window/WindowState.h"
 
 namespace keldor::headless {
 
@@ -15,14 +16,15 @@ bool IsWorldCell(const World& world, int x, int y) {
 }
 
 // Applies one step on a world cell; returns why it could not be applied.
-std::optional<std::string> ApplyStep(World& world, RandomSource& random, const ScenarioStep& step) {
+std::optional<std::string> ApplyStep(World& world, WindowState& window, RandomSource& random, const ScenarioStep& step) {
   const auto x = static_cast<int16_t>(step.X);
   const auto y = static_cast<int16_t>(step.Y);
   switch (step.Kind) {
     case ScenarioKind::Nest:
-      world.CursorCellX = x;
-      world.CursorCellY = y;
-      if (!CreateNest(world, random)) return "no room for another nest of " + std::to_string(world.Settings.AntsPerNest) + " ants";
+      // As the nest tool does it: the pointer on the cell, then the nest.
+      window.CursorCellX = x;
+      window.CursorCellY = y;
+      if (!CreateNest(world, random, x, y)) return "no room for another nest of " + std::to_string(world.Settings.AntsPerNest) + " ants";
       return std::nullopt;
     case ScenarioKind::Wall:
       if (CellHasObjectType(world, PlasterBrickType, x, y)) return std::nullopt;
@@ -42,13 +44,14 @@ std::optional<std::string> ApplyStep(World& world, RandomSource& random, const S
 
 }  // namespace
 
-std::optional<std::string> ApplyScenario(World& world, RandomSource& random, const std::vector<ScenarioStep>& steps) {
+std::optional<std::string> ApplyScenario(World& world, WindowState& window, RandomSource& random,
+                                         const std::vector<ScenarioStep>& steps) {
   for (const ScenarioStep& step : steps) {
     if (!IsWorldCell(world, step.X, step.Y)) {
       return step.Argument + ": the cell lies outside the " + std::to_string(world.Settings.GridX) + " x " +
              std::to_string(world.Settings.GridY) + " world";
     }
-    if (const auto problem = ApplyStep(world, random, step)) return step.Argument + ": " + *problem;
+    if (const auto problem = ApplyStep(world, window, random, step)) return step.Argument + ": " + *problem;
   }
   return std::nullopt;
 }

@@ -10,6 +10,7 @@
 
 namespace keldor {
 struct World;
+struct WindowState;
 class RandomSource;
 }  // namespace keldor
 
@@ -22,6 +23,7 @@ namespace keldor::headless {
 //         cell's Food is set to the pile's amount.
 // Returns the message of the first step that cannot be applied (a cell
 // outside the world, a full list or population), naming its argument.
-std::optional<std::string> ApplyScenario(World& world, RandomSource& random, const std::vector<ScenarioStep>& steps);
+std::optional<std::string> ApplyScenario(World& world, WindowState& window, RandomSource& random,
+                                         const std::vector<ScenarioStep>& steps);
 
 }  // namespace keldor::headless

@@ -4,6 +4,7 @@
 #include <QString>
 
 #include "model/World.h"
+#include "window/WindowState.h"
 
 namespace keldor::headless {
 
@@ -79,7 +80,7 @@ QJsonObject FoodPileJson(const FoodPile& p) {
   return {{"X", p.X}, {"Y", p.Y}, {"SpreadBudget", p.SpreadBudget}, {"Amount", p.Amount}};
 }
 
-void AddSettings(QJsonObject& json, const World& world) {
+void AddSettings(QJsonObject& json, const World& world, const WindowState& window) {
   const WorldSettings& s = world.Settings;
   json.insert("GridX", s.GridX);
   json.insert("GridY", s.GridY);
@@ -102,31 +103,31 @@ void AddSettings(QJsonObject& json, const World& world) {
   json.insert("NestScentMax", s.NestScentMax);
   json.insert("FoodTraceSetting", s.FoodTraceSetting);
   json.insert("NestTraceSetting", s.NestTraceSetting);
-  json.insert("CurrentTool", s.CurrentTool);
-  json.insert("ToolColour", s.ToolColour);
+  json.insert("CurrentTool", static_cast<int16_t>(window.View.CurrentTool));
+  json.insert("ToolColour", window.View.ToolColour);
 }
 
-void AddWindowState(QJsonObject& json, const World& world) {
-  json.insert("TimerEnabled", world.TimerEnabled);
+void AddWindowState(QJsonObject& json, const World& world, const WindowState& window) {
+  json.insert("TimerEnabled", window.TimerEnabled);
   json.insert("Running", world.Running);
-  json.insert("MouseButton", world.MouseButton);
-  json.insert("MouseHeld", world.MouseHeld);
+  json.insert("MouseButton", window.MouseButton);
+  json.insert("MouseHeld", window.MouseHeld);
   json.insert("AntSizeTwips", world.AntSizeTwips);
   json.insert("NestRadius", world.NestRadius);
-  json.insert("ZoomX", world.ZoomX);
-  json.insert("ZoomY", world.ZoomY);
+  json.insert("ZoomX", window.View.ZoomX);
+  json.insert("ZoomY", window.View.ZoomY);
   json.insert("AntBodyArea", world.AntBodyArea);
-  json.insert("ShowOdor", world.ShowOdor);
-  json.insert("ShowAnts", world.ShowAnts);
+  json.insert("ShowOdor", window.View.ShowOdor);
+  json.insert("ShowAnts", window.View.ShowAnts);
   json.insert("FoodPileCount", world.FoodPileCount());
   json.insert("WallCount", world.WallCount());
   json.insert("FoodChance", world.FoodChance);
-  json.insert("ViewCentreX", world.ViewCentreX);
-  json.insert("ViewCentreY", world.ViewCentreY);
-  json.insert("MouseX", world.MouseX);
-  json.insert("MouseY", world.MouseY);
-  json.insert("CursorCellX", world.CursorCellX);
-  json.insert("CursorCellY", world.CursorCellY);
+  json.insert("ViewCentreX", window.ViewCentreX);
+  json.insert("ViewCentreY", window.ViewCentreY);
+  json.insert("MouseX", window.View.MouseX);
+  json.insert("MouseY", window.View.MouseY);
+  json.insert("CursorCellX", window.CursorCellX);
+  json.insert("CursorCellY", window.CursorCellY);
 }
 
 // World cells 1..GridX by 1..GridY, column by column; none before New.
@@ -147,10 +148,10 @@ QJsonArray NestsJson(const World& world) {
 
 }  // namespace
 
-QJsonObject StateJson(const World& world, int64_t ticks) {
+QJsonObject StateJson(const World& world, const WindowState& window, int64_t ticks) {
   QJsonObject json;
-  AddSettings(json, world);
-  AddWindowState(json, world);
+  AddSettings(json, world, window);
+  AddWindowState(json, world, window);
   json.insert("Tick", static_cast<qint64>(ticks));
   json.insert("Cells", CellsJson(world));
   json.insert("Nests", NestsJson(world));

@@ -9,10 +9,11 @@
 
 namespace keldor {
 struct World;
+struct WindowState;
 }
 
 namespace keldor::headless {
 
-QJsonObject StateJson(const World& world, int64_t ticks);
+QJsonObject StateJson(const World& world, const WindowState& window, int64_t ticks);
 
 }  // namespace keldor::headless

@@ -5,7 +5,7 @@
 #include <ostream>
 #include <string>
 
-#include "model/MessageBox.h"
+#include "window/MessageBox.h"
 
 namespace keldor::headless {
 

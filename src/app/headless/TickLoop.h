@@ -7,9 +7,10 @@
 
 namespace keldor {
 struct World;
+struct WindowState;
 class RandomSource;
 class VirtualClock;
-class MessageBox;
+class TickEvents;
 class TickPainter;
 }  // namespace keldor
 
@@ -20,8 +21,9 @@ inline constexpr double TickPeriodSeconds = 0.075;
 
 struct TickLoop {
   World& world;
+  WindowState& window;
   RandomSource& random;
-  MessageBox& messages;
+  TickEvents& events;
   VirtualClock* clock = nullptr;  // null when the real time of day drives the random source
 };
 

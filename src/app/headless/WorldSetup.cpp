@@ -1,11 +1,12 @@
 #include "app/headless/WorldSetup.h"
 
 #include "app/headless/ScenarioSetup.h"
-#include "model/Commands.h"
+#include "window/Commands.h"
 #include "model/Numeric.h"
-#include "model/Viewport.h"
+#include "window/Viewport.h"
 #include "model/World.h"
 #include "model/WorldCreation.h"
+#include "window/WindowState.h"
 
 namespace keldor::headless {
 
@@ -16,7 +17,7 @@ constexpr double BodyUnitsPerMm = 56.7;
 
 // The longest ant the options dialog accepts on a grid: the nest radius.
 double MaxAntSizeMm(const World& world, int grid) {
-  const double cellSize = world.View.Map.Width / grid;
+  const double cellSize = MapBoxSize / grid;
   return cellSize / 2 * world.Settings.ScaleX / BodyUnitsPerMm;
 }
 
@@ -44,26 +45,27 @@ std::optional<std::string> ApplySettings(World& world, const WorldOptions& optio
   return std::nullopt;
 }
 
-void ApplyView(World& world, const ViewOptions& view) {
+void ApplyView(WindowState& window, const ViewOptions& view) {
   if (view.Zoom) {
-    while (world.ZoomX < *view.Zoom) ZoomIn(world);
-    while (world.ZoomX > *view.Zoom) ZoomOut(world);
+    while (window.View.ZoomX < *view.Zoom) ZoomIn(window);
+    while (window.View.ZoomX > *view.Zoom) ZoomOut(window);
   }
-  if (view.Odor) ToggleOdor(world);
-  if (view.HideAnts) ToggleAnts(world);
+  if (view.Odor) ToggleOdor(window);
+  if (view.HideAnts) ToggleAnts(window);
 }
 
 }  // namespace
 
-std::optional<std::string> BuildWorld(World& world, RandomSource& random, const HeadlessOptions& options) {
-  StartUp(world);
-  ResizeTerrainView(world, options.View.Width * TwipsPerPixel, options.View.Height * TwipsPerPixel);
+std::optional<std::string> BuildWorld(World& world, WindowState& window, RandomSource& random,
+                                      const HeadlessOptions& options) {
+  StartUp(world, window);
+  ResizeTerrainView(window, options.View.Width * TwipsPerPixel, options.View.Height * TwipsPerPixel);
   NewWorldInputs inputs;
   if (auto problem = ApplySettings(world, options.World, inputs)) return problem;
-  NewWorld(world, random, inputs);
-  if (auto problem = ApplyScenario(world, random, options.Scenario)) return problem;
-  ApplyView(world, options.View);
-  if (!options.Paused) TogglePlayPause(world);
+  NewWorld(world, window, random, inputs);
+  if (auto problem = ApplyScenario(world, window, random, options.Scenario)) return problem;
+  ApplyView(window, options.View);
+  if (!options.Paused) TogglePlayPause(world, window);
   return std::nullopt;
 }
 

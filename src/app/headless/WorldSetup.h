@@ -11,6 +11,7 @@
 
 namespace keldor {
 struct World;
+struct WindowState;
 class RandomSource;
 }  // namespace keldor
 
@@ -18,6 +19,7 @@ namespace keldor::headless {
 
 // Returns the message naming the argument when the options do not fit the
 // world (an ant longer than the nest radius, a scenario cell outside it...).
-std::optional<std::string> BuildWorld(World& world, RandomSource& random, const HeadlessOptions& options);
+std::optional<std::string> BuildWorld(World& world, WindowState& window, RandomSource& random,
+                                      const HeadlessOptions& options);
 
 }  // namespace keldor::headless

@@ -23,11 +23,12 @@ struct Built {
     arguments.prepend("keldor-headless");
     const ParsedArguments p = ParseHeadlessArguments(arguments);
     EXPECT_EQ(p.Result, ParsedArguments::Outcome::Run) << p.Message.toStdString();
-    problem = BuildWorld(world, random, p.Options);
+    problem = BuildWorld(world, window, random, p.Options);
   }
   VirtualClock clock;
   RandomSource random;
   World world;
+  WindowState window;
   std::optional<std::string> problem;
 };
 
@@ -44,10 +45,11 @@ TEST(WorldSetupTest, SettingsReachNewAndPlayIsPressed) {
   EXPECT_EQ(w.AntSizeTwips, 113);
   EXPECT_EQ(n.LifeSpan, 50);
   EXPECT_TRUE(w.Running);
-  EXPECT_EQ(w.View.Terrain.Width, 640 * 15);
-  EXPECT_EQ(w.View.Terrain.Height, 480 * 15);
-  EXPECT_EQ(w.ZoomY, 4);
-  EXPECT_TRUE(w.ShowOdor == 1 && w.ShowAnts == 0);
+  const ViewState& view = b.window.View;
+  EXPECT_EQ(view.Terrain.Width, 640 * 15);
+  EXPECT_EQ(view.Terrain.Height, 480 * 15);
+  EXPECT_EQ(view.ZoomY, 4);
+  EXPECT_TRUE(view.ShowOdor == 1 && view.ShowAnts == 0);
 
   const Built paused({"--paused"});
   const testing::TestWorld desktop(3);

@@ -27,9 +27,8 @@ struct ControlState {
   std::array<int, 5> ActionTops = {135, 585, 990, 1395, 1800};
   // Pointer over the terrain: arrow with no tool, cross-hair with any tool.
   bool CrossHairPointer = false;
-  // Panels of the window layout.
+  // The button bar of the window layout (the info panel's flag is in ViewState).
   bool ButtonBarVisible = true;
-  bool InfoVisible = true;
   // lblPop's caption; the design text until the first tick writes it.
   std::string PopulationCaption = "0000";
 };

@@ -1,10 +1,10 @@
 // Trail laying and the terrain tools.
 #include <gtest/gtest.h>
 
-#include "SimTestSupport.h"
+#include "sim/SimTestSupport.h"
 #include "model/Queries.h"
 #include "sim/AntStep.h"
-#include "sim/TerrainTools.h"
+#include "window/TerrainTools.h"
 
 namespace keldor::testing {
 namespace {
@@ -17,7 +17,7 @@ struct TrailRig : TickRig {
   }
   Ant& ant() { return world().Nests[0].Ants[1]; }
   Cell& cell(int x) { return world().Cells(x, 3); }
-  void Walk(int from, int to) { LayScentTrail(world(), test.random, 0, 1, from, 3, to, 3); }
+  void Walk(int from, int to) { LayScentTrail(world(), test.random, 0, 1, from, 3, to, 3, world().Settings.NestScentMax); }
 };
 
 TEST(Trail, SearchingAntEvensNestScentIntoUnitSteps) {
@@ -49,40 +49,41 @@ TEST(Trail, EachStepMovesScentByOneUnit) {
     EXPECT_EQ(rig.cell(c.checked).Scent, c.expected) << c.what;
   }
   TrailRig rig;
-  rig.cell(8).Scent = -rig.world().NestTraceValue();
+  rig.cell(8).Scent = -rig.world().Settings.NestScentMax;
   rig.cell(9).Scent = 60;
   rig.Walk(8, 9);
-  EXPECT_EQ(rig.cell(8).Scent, -rig.world().NestTraceValue()) << "the nest cell is never rewritten";
+  EXPECT_EQ(rig.cell(8).Scent, -rig.world().Settings.NestScentMax) << "the nest cell is never rewritten";
 }
 
 // Moves the mouse to the centre of cell (x, y) with the given buttons held.
-void MoveTo(World& world, int button, int x, int y) {
+void MoveTo(World& world, WindowState& window, int button, int x, int y) {
   const double side = world.Settings.CellSize;
-  TerrainPointerMoved(world, button, static_cast<float>((x - 0.5) * side * world.ZoomX),
-                       static_cast<float>((y - 0.5) * side * world.ZoomY));
+  TerrainPointerMoved(world, window, button, static_cast<float>((x - 0.5) * side * window.View.ZoomX),
+                      static_cast<float>((y - 0.5) * side * window.View.ZoomY));
 }
 
 TEST(TerrainTools, NestToolTogglesANestAndRemoveToolSparesTheQueen) {
   TickRig rig;
   World& world = rig.world();
-  SelectTool(world, 4);
-  MoveTo(world, 0, 5, 5);
+  WindowState& window = rig.window();
+  SelectTool(world, window, 4);
+  MoveTo(world, window, 0, 5, 5);
   const int16_t population = world.Settings.Population;
-  TerrainPointerPressed(world, rig.test.random, 1);
-  TerrainPointerReleased(world, 1);
+  TerrainPointerPressed(world, window, rig.test.random, 1);
+  TerrainPointerReleased(window, 1);
   ASSERT_EQ(world.NestCount, 2);
   EXPECT_GT(world.Settings.Population, population);
   world.Nests[1].FoodStore = 7;
-  TerrainPointerPressed(world, rig.test.random, 1);
-  TerrainPointerReleased(world, 1);
+  TerrainPointerPressed(world, window, rig.test.random, 1);
+  TerrainPointerReleased(window, 1);
   EXPECT_EQ(world.NestCount, 1);
   EXPECT_EQ(world.Settings.Population, population);
   EXPECT_GE(world.Cells(5, 5).Food, 7) << "the store is left as food";
 
-  SelectTool(world, 3);
+  SelectTool(world, window, 3);
   const Nest& nest = world.Nests[0];
-  MoveTo(world, 0, nest.CellX, nest.CellY);
-  TerrainPointerPressed(world, rig.test.random, 1);
+  MoveTo(world, window, 0, nest.CellX, nest.CellY);
+  TerrainPointerPressed(world, window, rig.test.random, 1);
   for (int i = 0; i < 3; ++i) rig.Tick();
   EXPECT_GE(world.Nests[0].AntCount(), 1);
   EXPECT_GT(world.Nests[0].Ants[0].Energy, 0);

@@ -1,8 +1,8 @@
-#include "model/SystemInfo.h"
+#include "window/SystemInfo.h"
 
 #include <cstdio>
 
-#include "model/MessageBox.h"
+#include "window/MessageBox.h"
 
 namespace keldor {
 

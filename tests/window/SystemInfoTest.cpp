@@ -1,4 +1,4 @@
-#include "model/SystemInfo.h"
+#include "window/SystemInfo.h"
 
 #include <gtest/gtest.h>
 
@@ -6,8 +6,8 @@
 #include <tuple>
 #include <utility>
 
-#include "model/MessageBox.h"
-#include "model/SplashCounter.h"
+#include "window/MessageBox.h"
+#include "window/SplashCounter.h"
 
 namespace keldor {
 namespace {

@@ -1,18 +1,20 @@
-#include "model/Viewport.h"
+#include "window/Viewport.h"
 
 #include <gtest/gtest.h>
 
-#include "model/Commands.h"
-#include "model/WindowLayout.h"
+#include "window/Commands.h"
+#include "window/WindowLayout.h"
 #include "model/World.h"
+#include "window/WindowState.h"
 #include "support/TestWorld.h"
 
 namespace keldor {
 namespace {
 
-World StartedWorld() {
-  World w;
-  StartUp(w);
+WindowState StartedWindow() {
+  World world;
+  WindowState w;
+  StartUp(world, w);
   return w;
 }
 
@@ -26,75 +28,75 @@ TEST(ViewportTest, IsPointVisibleIsStrictInSinglePrecision) {
 }
 
 TEST(ViewportTest, StartUpCentresZoomKeepsTheCentreWithinLimits) {
-  World w = StartedWorld();
+  WindowState w = StartedWindow();
   // Zoom 10: the world is 20000 terrain units wide, the view 6720.
-  EXPECT_EQ(w.View.HScroll1.Min, 3360);
-  EXPECT_EQ(w.View.HScroll1.Max, 20000 - 3360);
+  EXPECT_EQ(w.HScroll1.Min, 3360);
+  EXPECT_EQ(w.HScroll1.Max, 20000 - 3360);
   EXPECT_DOUBLE_EQ(w.View.Terrain.Left, 10000 - 3360);
   EXPECT_FLOAT_EQ(w.ViewCentreY, 1000);
   for (int i = 0; i < 20; ++i) ZoomOut(w);
-  EXPECT_EQ(w.ZoomX, 2);
+  EXPECT_EQ(w.View.ZoomX, 2);
   EXPECT_EQ(w.View.TerrainFontSize, 1);
   for (int i = 0; i < 40; ++i) ZoomIn(w);
-  EXPECT_EQ(w.ZoomY, 42);
+  EXPECT_EQ(w.View.ZoomY, 42);
   EXPECT_EQ(w.View.TerrainFontSize, 8);
 
-  World c = StartedWorld();
+  WindowState c = StartedWindow();
   NavigateFromMap(c, 800, 900);
   ZoomIn(c);
-  EXPECT_EQ(c.View.HScroll1.Value, 800 * 11);
-  EXPECT_EQ(c.View.VScroll1.Value, 900 * 11);
+  EXPECT_EQ(c.HScroll1.Value, 800 * 11);
+  EXPECT_EQ(c.VScroll1.Value, 900 * 11);
   EXPECT_NEAR(c.ViewCentreX, 800, 1e-3);
   // Near an edge the view stays against it.
   NavigateFromMap(c, 10, 10);
   ZoomOut(c);
-  EXPECT_EQ(c.View.VScroll1.Value, c.View.VScroll1.Min);
+  EXPECT_EQ(c.VScroll1.Value, c.VScroll1.Min);
   EXPECT_DOUBLE_EQ(c.View.Terrain.Left, 0);
 }
 
 TEST(ViewportTest, MapPointingClampsToTheWorldAndTo32767) {
-  World w = StartedWorld();
+  WindowState w = StartedWindow();
   NavigateFromMap(w, 1999, 1999);
-  EXPECT_EQ(w.View.HScroll1.Value, w.View.HScroll1.Max);
+  EXPECT_EQ(w.HScroll1.Value, w.HScroll1.Max);
   for (int i = 0; i < 20; ++i) ZoomIn(w);  // zoom 30: 60000 units wide
-  EXPECT_EQ(w.View.HScroll1.Max, 32767);
+  EXPECT_EQ(w.HScroll1.Max, 32767);
   NavigateFromMap(w, 1990, 1990);
-  EXPECT_EQ(w.View.HScroll1.Value, 32767);
-  EXPECT_EQ(w.View.VScroll1.Value, 32767);
+  EXPECT_EQ(w.HScroll1.Value, 32767);
+  EXPECT_EQ(w.VScroll1.Value, 32767);
 }
 
 TEST(ViewportTest, ResizeKeepsTheCentreOrClampsToTheEdge) {
-  World w = StartedWorld();
+  WindowState w = StartedWindow();
   NavigateFromMap(w, 1200, 700);
   const double centreX = w.View.Terrain.Left + w.View.Terrain.Width / 2;
   ResizeTerrainView(w, 9000, 6045);
   EXPECT_DOUBLE_EQ(w.View.Terrain.Left + w.View.Terrain.Width / 2, centreX);
-  EXPECT_EQ(w.View.HScroll1.Min, 4500);
+  EXPECT_EQ(w.HScroll1.Min, 4500);
   NavigateFromMap(w, 0, 0);
   ResizeTerrainView(w, 12000, 6045);
-  EXPECT_EQ(w.View.HScroll1.Value, 6000);
+  EXPECT_EQ(w.HScroll1.Value, 6000);
   EXPECT_DOUBLE_EQ(w.View.Terrain.Left, 0);
 }
 
 TEST(WindowLayoutTest, SmallWindowSnapsBackToTheMinimum) {
   testing::TestWorld t;
   WindowLayout layout;
-  ResizeWindow(t.world, layout, 3000, 2000);
+  ResizeWindow(t.window, layout, 3000, 2000);
   EXPECT_EQ(layout.Width, MinWindowWidth);
   EXPECT_EQ(layout.Height, MinWindowHeight);
-  ResizeWindow(t.world, layout, 12000, 2000);
+  ResizeWindow(t.window, layout, 12000, 2000);
   EXPECT_EQ(layout.Width, 12000);
   EXPECT_EQ(layout.Height, MinWindowHeight);
-  ResizeWindow(t.world, layout, 100, 100, true);  // minimised: nothing moves
+  ResizeWindow(t.window, layout, 100, 100, true);  // minimised: nothing moves
   EXPECT_EQ(layout.Width, 12000);
-  EXPECT_EQ(t.world.View.Terrain.Width, layout.Terrain.Width);
+  EXPECT_EQ(t.window.View.Terrain.Width, layout.Terrain.Width);
   EXPECT_EQ(layout.HScroll.Top, layout.Terrain.Top + layout.Terrain.Height);
   EXPECT_EQ(layout.VScroll.Left, layout.Terrain.Left + layout.Terrain.Width);
 }
 
 TEST(WindowLayoutTest, HidingPanelsGrowsTheViewAroundTheSameCentre) {
   testing::TestWorld t;
-  World& w = t.world;
+  WindowState& w = t.window;
   WindowLayout layout;
   ResizeWindow(w, layout, 12000, 9000);
   ZoomIn(w);
@@ -105,14 +107,14 @@ TEST(WindowLayoutTest, HidingPanelsGrowsTheViewAroundTheSameCentre) {
   const TwipRect before = layout.Terrain;
 
   CloseInfoPanel(w, layout);
-  EXPECT_FALSE(w.Controls.InfoVisible);
+  EXPECT_FALSE(w.View.InfoVisible);
   EXPECT_EQ(layout.Terrain.Width, before.Width + 2175 + 90);
-  EXPECT_NEAR(w.ViewCentreX, cx, 1.0 / w.ZoomX);
+  EXPECT_NEAR(w.ViewCentreX, cx, 1.0 / w.View.ZoomX);
   QuickToggle(w, layout, 1);
   EXPECT_FALSE(w.Controls.ButtonBarVisible);
   EXPECT_EQ(layout.Terrain.Top, 0);
   EXPECT_EQ(layout.Terrain.Height, before.Height + 555 - 90);
-  EXPECT_NEAR(w.ViewCentreY, cy, 1.0 / w.ZoomY);
+  EXPECT_NEAR(w.ViewCentreY, cy, 1.0 / w.View.ZoomY);
   ToggleButtonBar(w, layout);
   ToggleInfoPanel(w, layout);
   EXPECT_EQ(layout.Terrain.Width, before.Width);
@@ -121,7 +123,7 @@ TEST(WindowLayoutTest, HidingPanelsGrowsTheViewAroundTheSameCentre) {
   // Growing past the world clamps the view to its edge.
   NavigateFromMap(w, 0, 0);
   ResizeWindow(w, layout, 16000, 12000);
-  EXPECT_EQ(w.View.HScroll1.Value, w.View.HScroll1.Min);
+  EXPECT_EQ(w.HScroll1.Value, w.HScroll1.Min);
   EXPECT_NEAR(w.View.Terrain.Left, 0, 0.5);  // the scroll value is a whole number
 }
 

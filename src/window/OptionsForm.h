@@ -4,7 +4,7 @@
 // shell over this class.
 //
 // Open points decided here:
-//  - An edited grid size is taken over on OK and kept in the world until the
+//  - An edited grid size is taken over on OK and kept in the window state until the
 //    next New builds a grid of that size; reopening the dialog shows it.
 //  - The grid box holds only sizes the program can build: a number is
 //    replaced at once by the size New makes of it (0 gives 20, a number
@@ -20,6 +20,7 @@
 namespace keldor {
 
 struct World;
+struct WindowState;
 class RandomSource;
 
 enum class ColourBox { Red = 0, Green = 1, Blue = 2 };
@@ -44,7 +45,7 @@ class OptionsForm {
  public:
   // Opens the dialog: fills every field from the settings (running the text
   // handlers, as loading does) and lets the tick read the nest-scent slider.
-  explicit OptionsForm(World& world);
+  OptionsForm(World& world, WindowState& window);
   // Closing unloads the dialog: the tick reads NestScentMax again.
   ~OptionsForm();
   OptionsForm(const OptionsForm&) = delete;
@@ -78,6 +79,7 @@ class OptionsForm {
 
  private:
   World& world_;
+  WindowState& window_;
   std::string numAnts_;
   std::string antSize_;
   std::string colour_[3];
@@ -93,10 +95,10 @@ class OptionsForm {
 // What New reads from the options dialog as it would be filled now: the grid
 // size waiting from the last OK (else the current one), the ant size and the
 // life span.
-NewWorldInputs OptionsNewWorldInputs(const World& world);
+NewWorldInputs OptionsNewWorldInputs(const World& world, const WindowState& window);
 
 // New as the File menu and the Start button run it: reads the dialog's values
 // and uses up the waiting grid size.
-void NewFromOptions(World& world, RandomSource& random);
+void NewFromOptions(World& world, WindowState& window, RandomSource& random);
 
 }  // namespace keldor

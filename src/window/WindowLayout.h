@@ -6,7 +6,7 @@
 
 namespace keldor {
 
-struct World;
+struct WindowState;
 
 struct TwipRect {
   double Left = 0;
@@ -64,15 +64,15 @@ inline constexpr TwipRect MapBox{90, 225, 2000, 2000};
 // than the minimum is given the minimum size (the caller resizes the real
 // window to layout.Width x layout.Height). Nothing happens while minimised.
 // The terrain view keeps the same world point at its centre.
-void ResizeWindow(World& world, WindowLayout& layout, double width, double height, bool minimised = false);
+void ResizeWindow(WindowState& window, WindowLayout& layout, double width, double height, bool minimised = false);
 
 // View > Buttons and View > Info: show or hide the panel, then lay out again.
-void ToggleButtonBar(World& world, WindowLayout& layout);
-void ToggleInfoPanel(World& world, WindowLayout& layout);
+void ToggleButtonBar(WindowState& window, WindowLayout& layout);
+void ToggleInfoPanel(WindowState& window, WindowLayout& layout);
 // The quick toggles at the window's left edge: 1 the button bar, 2 the panel.
-void QuickToggle(World& world, WindowLayout& layout, int index);
+void QuickToggle(WindowState& window, WindowLayout& layout, int index);
 // The info button of the button bar: collapse the palette, toggle the panel.
-void CloseInfoPanel(World& world, WindowLayout& layout);
+void CloseInfoPanel(WindowState& window, WindowLayout& layout);
 
 double QuickButtonColour(bool panelVisible);
 

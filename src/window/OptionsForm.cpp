@@ -1,4 +1,4 @@
-#include "model/OptionsForm.h"
+#include "window/OptionsForm.h"
 
 #include <algorithm>
 #include <cmath>
@@ -6,6 +6,8 @@
 #include "model/Numeric.h"
 #include "model/Queries.h"
 #include "model/World.h"
+#include "window/Commands.h"
+#include "window/WindowState.h"
 
 namespace keldor {
 
@@ -17,7 +19,7 @@ int16_t ClampToRange(double value, SliderRange range) {
 
 }  // namespace
 
-OptionsForm::OptionsForm(World& world) : world_(world) {
+OptionsForm::OptionsForm(World& world, WindowState& window) : world_(world), window_(window) {
   const WorldSettings& s = world.Settings;
   lifeSpan_ = s.LifeSpan;
   foodRate_ = s.FoodRate;
@@ -25,7 +27,7 @@ OptionsForm::OptionsForm(World& world) : world_(world) {
   nestTrace_ = s.NestScentMax;
   AntCountTyped(CStr(s.AntsPerNest));
   AntSizeTyped(CStr(s.AntSizeMm));
-  const int16_t gridSize = world.PendingGridSize != 0 ? world.PendingGridSize : s.GridX;
+  const int16_t gridSize = window.PendingGridSize != 0 ? window.PendingGridSize : s.GridX;
   GridSizeTyped(CStr(gridSize));
   colour_[0] = CStr(s.AntRed);
   colour_[1] = CStr(s.AntGreen);
@@ -33,11 +35,11 @@ OptionsForm::OptionsForm(World& world) : world_(world) {
   for (ColourBox box : {ColourBox::Red, ColourBox::Green, ColourBox::Blue}) {
     ColourTyped(box, std::string(ColourText(box)));
   }
-  world_.OptionsOpen = true;
-  world_.OptionsNestTraceValue = static_cast<int16_t>(nestTrace_);
+  window_.OptionsOpen = true;
+  window_.OptionsNestTraceValue = static_cast<int16_t>(nestTrace_);
 }
 
-OptionsForm::~OptionsForm() { world_.OptionsOpen = false; }
+OptionsForm::~OptionsForm() { window_.OptionsOpen = false; }
 
 void OptionsForm::AntCountTyped(const std::string& text) {
   if (IsNumeric(text)) {
@@ -95,7 +97,7 @@ void OptionsForm::FoodTraceMoved(int value) {
 void OptionsForm::NestTraceMoved(int value) {
   nestTrace_ = ClampToRange(value, TraceRange);
   world_.Settings.NestTraceSetting = static_cast<int16_t>(nestTrace_);
-  world_.OptionsNestTraceValue = static_cast<int16_t>(nestTrace_);
+  window_.OptionsNestTraceValue = static_cast<int16_t>(nestTrace_);
 }
 
 void OptionsForm::ApplyOptions() {
@@ -107,19 +109,19 @@ void OptionsForm::ApplyOptions() {
   s.AntColour = Rgb(s.AntRed, s.AntGreen, s.AntBlue);
   s.FoodRate = static_cast<int16_t>(foodRate_);
   s.LifeSpan = static_cast<int16_t>(lifeSpan_);
-  if (s.CurrentTool == NestTool) s.ToolColour = s.AntColour;
-  if (IsNumeric(gridX_)) world_.PendingGridSize = static_cast<int16_t>(GridSizeFromText(gridX_));
+  if (window_.View.CurrentTool == NestTool) window_.View.ToolColour = s.AntColour;
+  if (IsNumeric(gridX_)) window_.PendingGridSize = static_cast<int16_t>(GridSizeFromText(gridX_));
 }
 
-NewWorldInputs OptionsNewWorldInputs(const World& world) {
+NewWorldInputs OptionsNewWorldInputs(const World& world, const WindowState& window) {
   const WorldSettings& s = world.Settings;
-  const std::string grid = CStr(world.PendingGridSize != 0 ? world.PendingGridSize : s.GridX);
+  const std::string grid = CStr(window.PendingGridSize != 0 ? window.PendingGridSize : s.GridX);
   return NewWorldInputs{grid, grid, CStr(s.AntSizeMm), s.LifeSpan};
 }
 
-void NewFromOptions(World& world, RandomSource& random) {
-  NewWorld(world, random, OptionsNewWorldInputs(world));
-  world.PendingGridSize = 0;
+void NewFromOptions(World& world, WindowState& window, RandomSource& random) {
+  NewWorld(world, window, random, OptionsNewWorldInputs(world, window));
+  window.PendingGridSize = 0;
 }
 
 }  // namespace keldor

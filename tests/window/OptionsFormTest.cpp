@@ -1,9 +1,10 @@
-#include "model/OptionsForm.h"
+#include "window/OptionsForm.h"
 
 #include <gtest/gtest.h>
 
 #include "model/Numeric.h"
 #include "support/TestWorld.h"
+#include "window/WindowState.h"
 
 namespace keldor {
 namespace {
@@ -12,11 +13,12 @@ class OptionsFormTest : public ::testing::Test {
  protected:
   testing::TestWorld t;
   World& w = t.world;
+  WindowState& window = t.window;
   WorldSettings& s = t.world.Settings;
 };
 
 TEST_F(OptionsFormTest, TextBoxesAreCorrectedAsTyped) {
-  OptionsForm form(w);
+  OptionsForm form(w, window);
   const std::pair<const char*, const char*> ants[] = {
       {"-7.9", "8"}, {"abc", "30"}, {"", "30"}, {"12.99", "12"}, {"99999999999", "32767"}};
   for (const auto& [typed, shown] : ants) {
@@ -52,15 +54,15 @@ TEST_F(OptionsFormTest, TextBoxesAreCorrectedAsTyped) {
   form.GridSizeTyped("");  // no number: OK leaves the grid alone
   form.ApplyOptions();  // the colour components change only on OK; the unreadable one stays
   EXPECT_EQ(s.AntColour, Rgb(255, 100, 12));
-  EXPECT_EQ(w.PendingGridSize, 0);
+  EXPECT_EQ(window.PendingGridSize, 0);
 }
 
 TEST_F(OptionsFormTest, CancelKeepsOnlyWhatWasTakenOverOnChange) {
   {
-    OptionsForm form(w);
+    OptionsForm form(w, window);
     EXPECT_EQ(form.PreviewColour(), Rgb(150, 100, 70));
     form.NestTraceMoved(40);
-    EXPECT_EQ(w.NestTraceValue(), 40);  // the tick reads the slider while the form is open
+    EXPECT_EQ(TickInputOf(window, w).NestTraceSlider, 40);  // the tick reads the slider while the form is open
     form.AntCountTyped("12");
     form.AntSizeTyped("2");
     form.ColourTyped(ColourBox::Red, "10");
@@ -70,7 +72,7 @@ TEST_F(OptionsFormTest, CancelKeepsOnlyWhatWasTakenOverOnChange) {
     form.GridSizeTyped("40");
   }  // closed without OK
   EXPECT_EQ(s.NestTraceSetting, 40);
-  EXPECT_EQ(w.NestTraceValue(), 250);
+  EXPECT_FALSE(TickInputOf(window, w).NestTraceSlider);
   EXPECT_EQ(s.AntsPerNest, 12);
   EXPECT_DOUBLE_EQ(s.AntSizeMm, 2);
   EXPECT_EQ(s.AntColour, Rgb(10, 100, 70));
@@ -78,13 +80,13 @@ TEST_F(OptionsFormTest, CancelKeepsOnlyWhatWasTakenOverOnChange) {
   EXPECT_EQ(s.AntRed, 150);
   EXPECT_EQ(s.LifeSpan, 100);
   EXPECT_EQ(s.FoodRate, 2);
-  EXPECT_EQ(w.PendingGridSize, 0);
+  EXPECT_EQ(window.PendingGridSize, 0);
 }
 
 TEST_F(OptionsFormTest, OkTakesTheRestAndTheEditedGridWaitsForTheNextNew) {
-  s.CurrentTool = NestTool;
+  window.View.CurrentTool = NestTool;
   {
-    OptionsForm form(w);
+    OptionsForm form(w, window);
     form.ColourTyped(ColourBox::Blue, "200");
     form.AntSizeTyped("2");
     form.LifeSpanMoved(50);
@@ -95,16 +97,16 @@ TEST_F(OptionsFormTest, OkTakesTheRestAndTheEditedGridWaitsForTheNextNew) {
   }
   EXPECT_EQ(s.LifeSpan, 50);
   EXPECT_EQ(s.FoodRate, 0);
-  EXPECT_EQ(s.ToolColour, Rgb(150, 100, 200));
+  EXPECT_EQ(window.View.ToolColour, Rgb(150, 100, 200));
   EXPECT_EQ(s.GridX, 30);
-  EXPECT_EQ(OptionsForm(w).GridDimXText(), "21");
-  NewFromOptions(w, t.random);
+  EXPECT_EQ(OptionsForm(w, window).GridDimXText(), "21");
+  NewFromOptions(w, window, t.random);
   EXPECT_EQ(s.GridY, 21);
   EXPECT_EQ(w.Nests[0].CellX, 10);
   EXPECT_EQ(w.Nests[0].LifeSpan, 50);
   EXPECT_EQ(w.AntSizeTwips, CInt(2 * 56.7));
-  EXPECT_EQ(w.PendingGridSize, 0);
-  NewFromOptions(w, t.random);  // the next New keeps the size
+  EXPECT_EQ(window.PendingGridSize, 0);
+  NewFromOptions(w, window, t.random);  // the next New keeps the size
   EXPECT_EQ(s.GridX, 21);
 }
 

@@ -1,0 +1,40 @@
+// The viewport: the two scroll bars that pan the terrain view, the zoom, and
+// the rules that keep the view inside the world. Toolkit-free: the desktop
+// window mirrors these values onto its widgets.
+#pragma once
+
+
+namespace keldor {
+
+struct WindowState;
+
+// Scroll ranges from the map scale, the view size and the zoom.
+void SetScrollRanges(WindowState& window);
+
+// Set a scroll value (clamped into the bar's range) and run its change
+// handler, which moves the terrain origin and the view centre.
+void SetHorizontalScroll(WindowState& window, int value);
+void SetVerticalScroll(WindowState& window, int value);
+void HorizontalScrollChanged(WindowState& window);
+void VerticalScrollChanged(WindowState& window);
+
+// Put both scroll values at the middle of their ranges (start-up and New).
+void CentreScrollBars(WindowState& window);
+
+// Put the view centre back at (ViewCentreX, ViewCentreY), clamped to the ranges.
+void RecentreView(WindowState& window);
+
+// The zoom buttons: collapse the tool palette, change the zoom (never below 2),
+// keep the view centre and fit the terrain font size into 1..8.
+void ZoomIn(WindowState& window);
+void ZoomOut(WindowState& window);
+
+// The viewport part of a window resize: the terrain view's inner size became
+// newWidth x newHeight terrain units. Keeps the world point at the centre
+// unless that would push the view past the world's edge.
+void ResizeTerrainView(WindowState& window, double newWidth, double newHeight);
+
+// Mini-map pointing: centre the terrain view on world point (x, y), clamped.
+void NavigateFromMap(WindowState& window, double x, double y);
+
+}  // namespace keldor
