@@ -133,7 +133,7 @@ TEST(AntStepMoves, ForwardStepBackAndStuck) {
     double angle, scentHere;
     bool brickAhead, brickBehind;
     std::tuple<double, double, double, int> rearXHeadXYCellX;
-    std::array<int16_t, 3> antsHereBehindAhead;
+    std::array<int16_t, 3> ants;  // on (3,3), (2,3), (4,3)
   } cases[] = {
       {"forward", 0, 0, false, false, {18, 32, 25, 4}, {0, 0, 1}},
       {"step back", 0, -8, true, false, {4, 18, 25, 2}, {0, 1, 0}},  // U2 toward (2,3): -9 + 1
@@ -141,6 +141,7 @@ TEST(AntStepMoves, ForwardStepBackAndStuck) {
       {"stuck", 0.1, -8, true, true, {11, 25, 25, 3}, {1, 0, 0}},
   };
   for (const auto& c : cases) {
+    SCOPED_TRACE(c.move);
     StepRig rig;
     rig.PlaceWorker(11, 25, 25, 25);
     rig.worker().Angle = c.angle;
@@ -149,12 +150,10 @@ TEST(AntStepMoves, ForwardStepBackAndStuck) {
     rig.cell(2, 3).Scent = -9;
     rig.Step();
     const Ant& w = rig.worker();
-    EXPECT_EQ(std::tuple(w.RearX, w.HeadX, w.HeadY, int{w.CellX}), c.rearXHeadXYCellX) << c.move;
-    EXPECT_EQ((std::array{rig.cell(3, 3).AntCount, rig.cell(2, 3).AntCount, rig.cell(4, 3).AntCount}),
-              c.antsHereBehindAhead)
-        << c.move;
+    EXPECT_EQ(std::tuple(w.RearX, w.HeadX, w.HeadY, int{w.CellX}), c.rearXHeadXYCellX);
+    EXPECT_EQ((std::array{rig.cell(3, 3).AntCount, rig.cell(2, 3).AntCount, rig.cell(4, 3).AntCount}), c.ants);
     // the fresh turn from draws of 0 is -0
-    EXPECT_EQ(std::tuple(w.Angle, rig.cell(3, 3).Scent), std::tuple(0.0, c.scentHere)) << c.move;
+    EXPECT_EQ(std::tuple(w.Angle, rig.cell(3, 3).Scent), std::tuple(0.0, c.scentHere));
   }
 }
 
@@ -162,29 +161,31 @@ TEST(AntStepDraws, DivisorThenTurnSignThenSizeForWorkerAndQueen) {
   // The worker, of length 6 along x with its head at 28, steps 6 / s forward
   // into the unmarked, unscented (4,3): no trail draws. Its turn rounds left to
   // right: sign * r2, * 60, * 3.1415926, / 180; the queen's rounds as
-  // sign * r2 * 60 * (3.1415926 / 180). On a brick she does not turn.
+  // sign * r2 * 60 * (3.1415926 / 180). On a brick she does not turn. She
+  // marks her cell (5,5) with -NestScentMax.
   const struct {
     int ant;
     bool brick;
     std::vector<double> draws;
-    double headX, angle;  // headX: the worker's, after its step (0: none placed)
+    double headX, angle, nestCellScent;  // headX: the worker's, after its step (0: none placed)
     const char* log;
   } cases[] = {
-      {1, false, {0.0, 0.25, 0.5}, 31, -0.5235987666666666, "ddd"},  // s = 2: 28 + 3; -30 * 3.1415926 / 180
-      {1, false, {0.5, 0.75, 0.25}, 30, 0.2617993833333333, "ddd"},  // s = Int(1) + 2 = 3: 28 + 2; 15 * ...
+      {1, false, {0.0, 0.25, 0.5}, 31, -0.5235987666666666, 0, "ddd"},  // s = 2: 28 + 3; -30 * 3.1415926 / 180
+      {1, false, {0.5, 0.75, 0.25}, 30, 0.2617993833333333, 0, "ddd"},  // s = Int(1) + 2 = 3: 28 + 2; 15 * ...
       // s = Int(1.98) + 2 = 3; 37.5 * 3.1415926 = 117.80972250000001, / 180
-      {1, false, {0.99, 0.75, 0.625}, 30, 0.65449845833333342, "ddd"},
-      {0, false, {0.5, 0.25, 0.25}, 0, -0.2617993833333333, "ddd"},
-      {0, false, {0.5, 0.75, 0.625}, 0, 0.65449845833333331, "ddd"},  // 37.5 * 0.017453292222222222
-      {0, true, {0.5, 0.25, 0.25}, 0, 0, "d"},
+      {1, false, {0.99, 0.75, 0.625}, 30, 0.65449845833333342, 0, "ddd"},
+      {0, false, {0.5, 0.25, 0.25}, 0, -0.2617993833333333, -250, "ddd"},
+      {0, false, {0.5, 0.75, 0.625}, 0, 0.65449845833333331, -250, "ddd"},  // 37.5 * 0.017453292222222222
+      {0, true, {0.5, 0.25, 0.25}, 0, 0, -250, "d"},
   };
   for (const auto& c : cases) {
     StepRig rig(c.draws);
     if (c.ant == 1) rig.PlaceWorker(22, 25, 28, 25);
     if (c.brick) rig.AddBrick(5, 5);
     rig.Step(c.ant);
-    EXPECT_EQ(std::tuple(rig.world.Nests[0].Ants[c.ant].Angle, rig.script.Log, rig.worker().HeadX),
-              std::tuple(c.angle, std::string(c.log), c.headX));
+    EXPECT_EQ(
+        std::tuple(rig.world.Nests[0].Ants[c.ant].Angle, rig.script.Log, rig.worker().HeadX, rig.cell(5, 5).Scent),
+        std::tuple(c.angle, std::string(c.log), c.headX, c.nestCellScent));
   }
 }
 
@@ -275,7 +276,7 @@ TEST(LayScentTrail, EachRowOfTheTrailTable) {
     int16_t v = 250, ny = 3;  // the "Nest Scent" slider's value (M = -v); N's row, 4 when diagonal
   } cases[] = {
       {"U1 spreads food scent back: 10 - 1", 0, -3, 10, 9, 10, 0},
-      {"U1 keeps a stronger nest scent", 0, -20, 10, -20, 10, 0},
+      {"U1 keeps an as strong nest scent", 0, -10, 10, -10, 10, 0},
       {"U1 keeps the nest mark M", 0, -250, 300, -250, 300, 0},
       {"U1 keeps M = -100", 0, -100, 300, -100, 300, 0, 100},
       {"U1 rewrites -250 when M = -100: 300 - 1", 0, -250, 300, 299, 300, 0, 100},
@@ -285,15 +286,16 @@ TEST(LayScentTrail, EachRowOfTheTrailTable) {
       {"U2 equal", 0, -5, -5, -5, -5, 0},
       {"U2 toward a diagonal target: -9 + 1", 0, -5, -9, -8, -9, 0, 250, 4},
       {"U3 stronger target: 9 - 1", 0, 5, 9, 8, 9, 2},
-      {"U3 weaker target", 0, 9, 5, 9, 5, 2},
+      {"U3 equal target", 0, 9, 9, 9, 9, 2},
       {"L1 pulls the nest gradient: -9 + 1", 1, -3, -9, -8, -9, 2},
       {"L1 from 0: -4 + 1", 1, 0, -4, -3, -4, 2},
       {"L1 keeps the nest mark M", 1, -250, -250, -250, -250, 2},
       {"L2 spreads food scent back: 10 - 1", 1, -3, 10, 9, 10, 0},
-      {"L2 keeps a stronger nest scent", 1, -20, 10, -20, 10, 0},
+      {"L2 keeps an as strong nest scent", 1, -10, 10, -10, 10, 0},
       {"L3 carries food scent forward: 9 - 1", 1, 9, 5, 9, 8, 2},
       {"L3 spares a target at M", 1, 300, -250, 300, -250, 2},
       {"L3 spares a stronger target", 1, 5, 9, 5, 9, 2},
+      {"L3 spares a stronger nest scent", 1, 5, -7, 5, -7, 2},
       {"no row: loaded, both 0", 1, 0, 0, 0, 0, 0},
       {"no row: loaded, weaker nest scent ahead", 1, -5, -2, -5, -2, 0},
       {"no row: loaded, from 0 to food scent", 1, 0, 7, 0, 7, 0},
