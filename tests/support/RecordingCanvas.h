@@ -1,6 +1,6 @@
-// A canvas that draws nothing and records every call with the pen state at
-// that moment, so tests can check what a view was asked to draw and in which
-// order.
+// A canvas that draws nothing and records every drawing call with the pen
+// state at that moment, so tests can check what a view was asked to draw and
+// in which order. The last scale set is kept in Scale.
 #pragma once
 
 #include <algorithm>
