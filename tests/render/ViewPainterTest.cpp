@@ -1,10 +1,12 @@
-// The view painter on two recording canvases: what each layer asks the
-// terrain view and the mini-map to draw, in which order and with which pen.
+// The view painter on two recording canvases. The world is 20 x 20 cells, so
+// a cell is 100 world units wide; at zoom 20 it is 2000 terrain units wide and
+// radii in body units are drawn at ZoomX / ScaleX = 2 times their size.
+// Cell (2, 4) spans world x 100..200, y 300..400: terrain 2000..4000, 6000..8000.
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <array>
-#include <cmath>
+#include <sstream>
+#include <tuple>
 
 #include "window/WindowState.h"
 #include "model/Numeric.h"
@@ -24,49 +26,77 @@ const double Grey = Rgb(50, 50, 50);
 const double Green = Rgb(16, 152, 16);
 const double Yellow = Rgb(255, 255, 0);
 const double Ochre = Rgb(139, 129, 103);
-const double WallColour = Rgb(120, 40, 40);
+const double Brick = Rgb(120, 40, 40);
+const double PileOf50 = 7853.9815;  // Pi * 50^2: a disc of radius 50 body units
+
+std::string Name(double colour) {
+  const std::pair<double, const char*> names[] = {{Black, "black"}, {Blue, "blue"},   {Red, "red"},
+                                                  {Grey, "grey"},   {Green, "green"}, {Yellow, "yellow"},
+                                                  {Ochre, "ochre"}, {Brick, "brick"}};
+  for (const auto& [value, name] : names) {
+    if (value == colour) return name;
+  }
+  return std::to_string(colour);
+}
+
+// What a view was asked to draw, one call after another: a box's corners, a
+// line's ends or a circle's centre and radius, then outline/fill colour
+// ("hollow" when transparent); a print's point, text and colour.
+std::string Drawn(const RecordingCanvas& view) {
+  const char* const ops[] = {"Cls", "Line", "Box", "Circle", "Print"};
+  std::ostringstream out;
+  for (const CanvasCall& c : view.Calls) {
+    out << (out.tellp() > 0 ? "; " : "") << ops[static_cast<int>(c.Op)];
+    if (c.Op == CanvasOp::Print) {
+      out << ' ' << c.X1 << ' ' << c.Y1 << " \"" << c.Text << "\" " << Name(c.Pen.ForeColor);
+    } else if (c.Op != CanvasOp::Cls) {
+      out << ' ' << c.X1 << ' ' << c.Y1 << ' ' << c.X2;
+      if (c.Op != CanvasOp::Circle) out << ' ' << c.Y2;
+      out << ' ' << Name(c.Colour) << '/' << (c.Pen.Fill == FillStyle::Solid ? Name(c.Pen.FillColor) : "hollow");
+      if (c.Pen.DrawWidth != 1) out << " width " << c.Pen.DrawWidth;
+    }
+  }
+  return out.str();
+}
 
 class PainterTest : public ::testing::Test {
  protected:
+  // Cell (2, 4) with scent and ants holds a wall, the only nest (radius 100
+  // body units) and a pile of radius 50 body units.
   void SetUp() override {
+    view.ZoomX = view.ZoomY = 20;
+    view.ShowOdor = 1;
+    view.Terrain = {0, 0, 40000, 40000};  // the whole world
+    Cell& cell = world.Cells(2, 4);
+    cell.AntCount = 3;
+    cell.Scent = -40.7;
+    cell.Colour = Ochre;
+    cell.Food = 20000;  // a tick drops piles whose cell holds no food
+    WallShape& wall = world.Walls.Append().Shapes.emplace_back();
+    wall.Colour = Brick;
+    wall.Points = {WorldPoint{100, 300}, {100, 400}, {200, 400}, {200, 300}, {}};
+    world.Nests[0].X = 150;
+    world.Nests[0].Y = 350;
+    world.Nests[0].Radius = 100;
+    world.FoodPiles.Clear();
+    world.FoodPiles.Append() = FoodPile{2, 4, 0, PileOf50};
     painter.ClearViews(world);
     ForgetCalls();
   }
-  double Size() const { return world.Settings.CellSize; }
-  // Cell (x, y) with the given scent, ants and colour, as the tick leaves it.
-  Cell& SetCell(int x, int y, double scent, int16_t ants, double colour = Ochre) {
-    Cell& c = world.Cells(x, y);
-    c.Scent = scent;
-    c.AntCount = ants;
-    c.Colour = colour;
-    return c;
-  }
-  void AddWall(int x, int y) {
-    WallObject& wall = world.Walls.Append();
-    wall.ShapeCount = 1;
-    wall.Shapes.resize(2);
-    wall.Shapes[0].Colour = WallColour;
-    const double x0 = (x - 1) * Size(), y0 = (y - 1) * Size(), x1 = x * Size(), y1 = y * Size();
-    wall.Shapes[0].Points = {WorldPoint{x0, y0}, {x0, y1}, {x1, y1}, {x1, y0}, {}};
-  }
-  void OnlyPile(int x, int y, double amount) {
-    world.FoodPiles.Clear();
-    FoodPile& pile = world.FoodPiles.Append();
-    pile.X = static_cast<int16_t>(x);
-    pile.Y = static_cast<int16_t>(y);
-    pile.Amount = amount;
-  }
   void ForgetCalls() {
-    terrain.Forget();
-    map.Forget();
+    terrain.Calls.clear();
+    map.Calls.clear();
   }
-  std::vector<std::string> Printed() const {
-    std::vector<std::string> texts;
-    for (const CanvasCall& c : terrain.Of(CanvasOp::Print)) texts.push_back(c.Text);
+  // The texts printed on the terrain view, separated by spaces.
+  std::string Printed() const {
+    std::string texts;
+    for (const CanvasCall& c : terrain.Calls) {
+      if (c.Op == CanvasOp::Print) texts += (texts.empty() ? "" : " ") + c.Text;
+    }
     return texts;
   }
 
-  TestWorld test;
+  TestWorld test{1, NewWorldInputs{"20", "20"}};
   World& world = test.world;
   ViewState& view = test.window.View;
   RecordingCanvas terrain;
@@ -74,360 +104,284 @@ class PainterTest : public ::testing::Test {
   ViewPainter painter{terrain, map, view};
 };
 
-void ExpectCall(const CanvasCall& c, CanvasOp op, double x1, double y1, double x2) {
-  EXPECT_EQ(c.Op, op);
-  EXPECT_NEAR(c.X1, x1, 1e-9);
-  EXPECT_NEAR(c.Y1, y1, 1e-9);
-  EXPECT_NEAR(c.X2, x2, 1e-9);
+// The cell and the wall are tested at the square's corners, terrain (2000, 6000) to
+// (4000, 8000). The nest and the pile are tested at (3000, 7000) +- 100: the
+// nest's R = 100 unscaled, the pile's rT = 50 * 20 / 10.
+TEST_F(PainterTest, ShapesAreDrawnWhenAnyTestPointLiesStrictlyInsideTheView) {
+  const std::tuple<ViewScale, size_t, size_t> cases[] = {  // the view, boxes and discs drawn
+      {{1500, 5500, 1000, 1000}, 2, 0},                      // round corner (2000, 6000) alone
+      {{1500, 7500, 1000, 1000}, 2, 0},                      // (2000, 8000)
+      {{3500, 5500, 1000, 1000}, 2, 0},                      // (4000, 6000)
+      {{3500, 7500, 1000, 1000}, 2, 0},                      // (4000, 8000)
+      {{2500, 6500, 1000, 1000}, 0, 2},                      // inside the square, round all disc points
+      {{2000, 5500, 1000, 1000}, 0, 0},                      // corners x 2000 on the left edge
+      {{1000, 5500, 1000, 1000}, 0, 0},                      // on the right edge: 1000 + 1000
+      {{1500, 6000, 1000, 1000}, 0, 0},                      // corner y 6000 on the top edge
+      {{1500, 5000, 1000, 1000}, 0, 0},                      // on the bottom edge
+      {{2850, 6850, 100, 100}, 0, 2},                        // round disc point (2900, 6900) alone
+      {{3050, 6850, 100, 100}, 0, 2},                        // (3100, 6900)
+      {{2850, 7050, 100, 100}, 0, 2},                        // (2900, 7100)
+      {{3050, 7050, 100, 100}, 0, 2},                        // (3100, 7100)
+      {{2950, 6950, 100, 100}, 0, 0},                        // round the centre only
+      {{3150, 7150, 100, 100}, 0, 0},                        // (3200, 7200): a half-side of 200
+      {{3025, 7025, 50, 50}, 0, 0},                          // (3050, 7050): a half-side of 50
+      {{2900, 6850, 100, 100}, 0, 0}};                       // (2900, 6900) on the left edge
+  for (const auto& [visible, boxes, discs] : cases) {
+    ForgetCalls();
+    view.Terrain = visible;
+    painter.DrawCell(world, world.Cells(2, 4));
+    painter.DrawWalls(world);
+    painter.DrawNests(world);
+    painter.DrawFoodPiles(world);
+    EXPECT_EQ(terrain.Count(CanvasOp::Box), boxes) << visible.Left << "," << visible.Top;
+    EXPECT_EQ(terrain.Count(CanvasOp::Circle), discs) << visible.Left << "," << visible.Top;
+    EXPECT_EQ(map.Count(CanvasOp::Box), 2u) << "the mini-map shows every cell and wall";
+  }
+}
+
+// ---- Cells
+
+// Scent values print at ((100 + 100 / 20) * 20, (300 + 5) * 20), ant counts at
+// ((100 + 14 * 100 / 20) * 20, (300 + 15 * 100 / 20) * 20).
+TEST_F(PainterTest, CellIsAColouredSquareOnBothViewsWithScentAndAntCount) {
+  const std::string square = "Box 2000 6000 4000 8000 black/ochre";
+  const std::tuple<double, int16_t, double, std::string> cases[] = {  // scent, ants, food, terrain
+      {-40.7, 3, 0, square + "; Print 2100 6100 \"40\" black; Print 3400 7500 \"3\" black"},  // Int(40.7)
+      {12.9, 0, 0, square + "; Print 2100 6100 \"12\" black; Print 3400 7500 \"0\" black"},   // the count also at 0
+      {0, 2, 0, square + "; Print 3400 7500 \"2\" black"},                                   // no scent value at 0
+      {30, 1, 5, square + "; Print 3400 7500 \"1\" black"}};                                 // none on a food cell
+  map.Pen.Fill = FillStyle::Transparent;
+  for (const auto& [scent, ants, food, drawn] : cases) {
+    ForgetCalls();
+    Cell& cell = world.Cells(2, 4);
+    cell.Scent = scent;
+    cell.AntCount = ants;
+    cell.Food = food;
+    painter.DrawCell(world, cell);
+    EXPECT_EQ(Drawn(terrain), drawn);
+    EXPECT_EQ(Drawn(map), "Box 100 300 200 400 ochre/ochre");  // no grid on the mini-map
+  }
+  ForgetCalls();
+  view.ShowOdor = 0;  // hidden odor only sets the fill colour of both views
+  painter.DrawCell(world, world.Cells(2, 4));
+  EXPECT_EQ(Drawn(terrain) + Drawn(map), "");
+  EXPECT_EQ(Name(terrain.Pen.FillColor) + Name(map.Pen.FillColor), "ochreochre");
+}
+
+// ---- Walls, nests and food piles
+
+TEST_F(PainterTest, WallIsABoxFromItsFirstToItsThirdCorner) {
+  view.InfoVisible = false;  // walls reach the mini-map all the same
+  terrain.Pen.FillColor = Blue;
+  painter.DrawWalls(world);
+  EXPECT_EQ(Drawn(map), "Box 100 300 200 400 brick/brick");
+  EXPECT_EQ(map.Calls[0].Pen.ForeColor, Blue);  // the terrain view's fill colour at that moment
+  EXPECT_EQ(Drawn(terrain), "Box 2000 6000 4000 8000 brick/brick");
+  EXPECT_EQ(terrain.Pen.ForeColor, Black);
+}
+
+TEST_F(PainterTest, NestIsAGreyDiscWithItsCellNumbersInYellowEvenOffTheView) {
+  painter.DrawNests(world);
+  EXPECT_EQ(Drawn(map), "Circle 150 350 10 black/grey");  // radius 100 / 10
+  // Radius 100 * 20 / 10. Corner of the nest cell: Int(150 / 100) * 100, Int(350 / 100) * 100.
+  EXPECT_EQ(Drawn(terrain),
+            "Circle 3000 7000 200 grey/grey; "
+            "Print 2100 6100 \"41\" yellow; "  // (100 + 5) * 20, (300 + 5) * 20; -Int(-40.7)
+            "Print 3400 7500 \"3\" yellow");   // (100 + 70) * 20, (300 + 75) * 20
+  EXPECT_EQ(terrain.Pen.ForeColor, Black);
+
+  view.Terrain = {0, 0, 100, 100};  // the disc is off the view, the numbers are not culled
+  const std::tuple<double, int16_t, const char*> cases[] = {{12.9, 1, "12 3"}, {0, 1, "3"}, {-40, 0, ""}};
+  for (const auto& [scent, odor, texts] : cases) {  // the cell's scent, ShowOdor, the texts
+    ForgetCalls();
+    view.ShowOdor = odor;
+    world.Cells(2, 4).Scent = scent;
+    painter.DrawNests(world);
+    EXPECT_EQ(Printed(), texts) << scent;
+  }
+}
+
+TEST_F(PainterTest, FoodPileDiscAreaIsItsAmountAndItsNumbersAreCulled) {
+  map.Pen.Fill = FillStyle::Transparent;
+  painter.DrawFoodPiles(world);
+  EXPECT_EQ(Drawn(map), "Circle 150 350 5 black/green");  // centre of cell (2, 4); r = 50, / 10
+  EXPECT_EQ(Drawn(terrain),
+            "Circle 3000 7000 100 black/green; "  // rT = 50 * 20 / 10
+            "Print 2100 6100 \"41\" yellow; "     // as over nests: -Int(-40.7)
+            "Print 3400 7500 \"3\" yellow");
+  EXPECT_EQ(terrain.Pen.ForeColor, Yellow);  // left yellow for the later layers
+
+  const std::pair<ViewScale, const char*> cases[] = {{{2050, 6050, 100, 100}, "41"},  // holds (2100, 6100) only
+                                                     {{3350, 7450, 100, 100}, "3"},   // holds (3400, 7500) only
+                                                     {{2100, 6050, 100, 100}, ""}};   // (2100, 6100) on the left edge
+  for (const auto& [visible, texts] : cases) {
+    ForgetCalls();
+    view.Terrain = visible;
+    painter.DrawFoodPiles(world);
+    EXPECT_EQ(Printed(), texts) << visible.Left;
+  }
+  ForgetCalls();
+  view.Terrain = {0, 0, 40000, 40000};
+  world.FoodPiles[0].Amount = 0;  // an empty pile is not drawn
+  painter.DrawFoodPiles(world);
+  EXPECT_EQ(Drawn(terrain) + Drawn(map), "");
+}
+
+// ---- Overlays
+
+TEST_F(PainterTest, VisibleAreaFrameOnTheMapAndWorldBorderOnTheTerrain) {
+  view.Terrain = {2000, 6000, 4000, 3000};
+  view.Map = {10, 20, 2000, 2000};
+  painter.DrawViewFrames(world);
+  EXPECT_EQ(Drawn(map), "Box 100 300 299 449 red/hollow");  // (2000 + 4000) / 20 - 1, (6000 + 3000) / 20 - 1
+  EXPECT_EQ(Drawn(terrain), "Box 200 400 40200 40400 blue/hollow");  // 10 * 20, 20 * 20, 2010 * 20, 2020 * 20
+
+  ForgetCalls();
+  view.CurrentTool = WallTool;
+  view.ToolColour = Red;
+  view.MouseX = 5000;  // Int(5000 / 20 / 100) + 1 = column 3
+  view.MouseY = 9000;  // row 5
+  painter.DrawViewFrames(world);
+  EXPECT_EQ(Drawn(terrain),
+            "Box 200 400 40200 40400 blue/hollow; "
+            "Box 4000 8000 6000 10000 red/hollow width 2");  // columns 200..300, rows 400..500, * 20
+  for (const RecordingCanvas* view : {&terrain, &map}) {
+    EXPECT_EQ(view->Pen.Fill, FillStyle::Solid);
+    EXPECT_EQ(view->Pen.DrawWidth, 1);
+  }
+}
+
+TEST_F(PainterTest, ZoomLabelAtTheTopLeftCornerInBlueAtSize8) {
+  // The scroll bars at 5000 and 7000 put the view's corner at 5000 - 4000 / 2, 7000 - 3000 / 2.
+  view.Terrain = {3000, 5500, 4000, 3000};
+  terrain.Pen.FontSize = 3;
+  for (const auto& [zoom, text] : {std::pair{10, ""}, {11, "ZOOM: 1.1X"}, {20, "ZOOM: 2.X"}}) {
+    ForgetCalls();
+    view.ZoomX = view.ZoomY = zoom;
+    painter.DrawZoomLabel(world);
+    // At the view's top-left corner.
+    EXPECT_EQ(Drawn(terrain), "Print 3000 5500 \"" + std::string(text) + "\" blue");
+    EXPECT_EQ(terrain.Calls[0].Pen.FontSize, 8);
+    EXPECT_EQ(terrain.Pen.FontSize, 3);
+  }
+}
+
+TEST_F(PainterTest, ClearingResetsTheTerrainPen) {
+  view.TerrainFontSize = 4;
+  terrain.Pen = {Yellow, Green, FillStyle::Solid, 1, 8, 500, 600};
+  painter.ClearViews(world);
+  EXPECT_EQ(Drawn(terrain) + " " + Drawn(map), "Cls Cls");  // a hidden map is not cleared: see the frame tests
+  EXPECT_EQ(terrain.Pen.CurrentX + terrain.Pen.CurrentY, 0);
+  EXPECT_EQ(terrain.Pen.ForeColor, Black);
+  EXPECT_EQ(terrain.Pen.FontSize, 4);
+  EXPECT_EQ(terrain.Scale.Width, 40000);
+  EXPECT_EQ(map.Scale.Width, 2000);
+}
+
+// ---- Ant figures: rear R = (100, 200), head H = (184, 242), so H - R = (84, 42)
+
+class AntFigureTest : public PainterTest {
+ protected:
+  void Place(int index, double load = 0) {
+    Nest& nest = world.Nests[0];
+    nest.AntLength = 60;
+    nest.FoodStore = 1256.63704;  // Pi * 20^2
+    // Rear, head, cell, angle, Length 840, the load, life factor, energy, colour.
+    nest.Ants[index] = Ant{100, 200, 184, 242, 0, 0, 0, 840, load, 0, 0, Red};
+    painter.DrawAnt(world, nest, index);
+  }
+};
+
+TEST_F(AntFigureTest, WorkerQueenAndLoadFigures) {
+  const std::tuple<int, double, const char*> cases[] = {
+      // A worker: centres H, H - (84, 42) * 11/28, R + (84, 42) / 6, times 20; radii 840 / 5, / 7, / 6, times 2.
+      {1, 0, "Circle 3680 4840 336 black/red; Circle 3020 4510 240 black/red; Circle 2280 4140 280 black/red"},
+      // The queen: centres H, H - (84, 42) / 3, R + (84, 42) / 4; radii 840 / 8, 840 / 5, 840 / 4 + Sqr(store / Pi).
+      {0, 0, "Circle 3680 4840 210 black/red; Circle 3120 4560 336 black/red; Circle 2420 4210 460 black/red"},
+      // A load of Pi * 10^2 first, at H + (84, 42) / 4 with radius 10; then the worker.
+      {2, 314.15926, "Circle 4100 5050 20 black/green; Circle 3680 4840 336 black/red; "
+                     "Circle 3020 4510 240 black/red; Circle 2280 4140 280 black/red"}};
+  for (const auto& [index, load, figure] : cases) {
+    ForgetCalls();
+    Place(index, load);
+    EXPECT_EQ(Drawn(terrain), figure) << index;
+    // Round the centre (142, 221), a = b = 60 / (2 * 10); the load at the head, radius 10 / 10.
+    EXPECT_EQ(Drawn(map), "Line 139 221 145 221 red/red; Line 142 218 142 224 red/red; Circle 142 221 3 red/red" +
+                              std::string(load > 0 ? "; Circle 184 242 1 green/green" : ""));
+    EXPECT_EQ(map.Pen.FillColor, Red);
+  }
+}
+
+TEST_F(AntFigureTest, AntIsCulledOnlyWhenRearAndHeadAreBothHidden) {
+  // Rear at terrain (2000, 4000), head at (3680, 4840).
+  const std::pair<ViewScale, size_t> cases[] = {{{1950, 3950, 100, 100}, 3},   // the rear only
+                                                {{3630, 4790, 100, 100}, 3},   // the head only
+                                                {{2500, 4200, 500, 500}, 0},   // between them
+                                                {{3680, 4790, 100, 100}, 0}};  // the head on the left edge
+  for (const auto& [visible, circles] : cases) {
+    ForgetCalls();
+    view.Terrain = visible;
+    Place(1);
+    EXPECT_EQ(terrain.Count(CanvasOp::Circle), circles) << visible.Left;
+    EXPECT_EQ(map.Count(CanvasOp::Circle), 1u);
+  }
 }
 
 // ---- Whole frames
 
 class FrameTest : public PainterTest {
  protected:
-  void SetUp() override {
-    view.ShowOdor = 1;
-    SetCell(15, 14, 20, 2, Rgb(150, 190, 130));
-    SetCell(14, 15, -60, 0, Rgb(170, 150, 120));
-    AddWall(17, 15);
-    OnlyPile(16, 16, 20000);
+  // The layer a terrain call belongs to, recognised by its colours: Clear,
+  // Cell, Wall, Nest, Pile, Ant, Overlay, or Text for the numbers.
+  static char LayerOf(const CanvasCall& c) {
+    if (c.Op == CanvasOp::Cls) return 'C';
+    if (c.Op == CanvasOp::Print) return c.Pen.ForeColor == Blue ? 'O' : 'T';
+    if (c.Op == CanvasOp::Box) return c.Colour == Brick ? 'W' : c.Colour == Blue ? 'O' : 'c';
+    if (c.Colour == Grey) return 'N';
+    return c.Pen.FillColor == Green ? 'P' : 'A';
   }
-  // What a terrain call belongs to, recognised by its colours.
-  enum class Layer { Clear, Cell, Wall, Nest, Pile, Ant, Overlay, Text };
-  static Layer LayerOf(const CanvasCall& c) {
-    if (c.Op == CanvasOp::Cls) return Layer::Clear;
-    if (c.Op == CanvasOp::Print) return c.Pen.ForeColor == Blue ? Layer::Overlay : Layer::Text;
-    if (c.Op == CanvasOp::Box) return c.Colour == WallColour ? Layer::Wall : c.Colour == Blue ? Layer::Overlay : Layer::Cell;
-    if (c.Colour == Grey) return Layer::Nest;
-    return c.Pen.FillColor == Green ? Layer::Pile : Layer::Ant;
+  void Tick(TickPainter& withPainter) {
+    IgnoredTickEvents events;
+    TickContext context{world, test.random, withPainter, events};
+    RunTick(context, TickInputOf(test.window, world));
   }
 };
 
 TEST_F(FrameTest, TickDrawsTheTerrainLayersInPhaseOrder) {
-  IgnoredTickEvents events;
-  TickContext context{world, test.random, painter, events};
-  world.Cells(16, 16).Food = 20000;  // the tick drops piles whose cell holds no food
   for (int16_t ants : {1, 0}) {
     ForgetCalls();
     view.ShowAnts = ants;
-    RunTick(context, TickInputOf(test.window, world));
-    std::vector<Layer> order;
-    for (const CanvasCall& c : terrain.Drawing()) {
-      const Layer layer = LayerOf(c);
-      if (layer != Layer::Text && (order.empty() || order.back() != layer)) order.push_back(layer);
+    Tick(painter);
+    std::string order;
+    for (const CanvasCall& c : terrain.Calls) {
+      const char layer = LayerOf(c);
+      if (layer != 'T' && (order.empty() || order.back() != layer)) order += layer;
     }
-    std::vector<Layer> expected{Layer::Clear, Layer::Cell, Layer::Wall, Layer::Nest, Layer::Pile, Layer::Ant, Layer::Overlay};
-    if (ants == 0) expected.erase(expected.begin() + 5);  // cells with ants are still drawn
-    EXPECT_EQ(order, expected) << ants;
+    EXPECT_EQ(order, ants == 1 ? "CcWNPAO" : "CcWNPO") << ants;  // cells with ants are drawn either way
   }
-}
-
-TEST_F(FrameTest, NumbersOfAFrame) {
-  PaintFrame(world, view, painter);
-  const std::string nestAnts = CStr(world.Cells(15, 15).AntCount);
-  // Cell (14,15): scent 60, no ants; cell (15,14): 20 and 2; the nest cell:
-  // its ants in black, then again in yellow; the pile cell in yellow; the label.
-  EXPECT_EQ(Printed(), (std::vector<std::string>{"60", "0", "20", "2", nestAnts, nestAnts, "0", ""}));
 }
 
 TEST_F(FrameTest, HiddenInfoPanelLeavesOnlyWallsOnTheMiniMap) {
-  view.InfoVisible = false;
+  view.InfoVisible = false;  // ants are shown after New
   PaintFrame(world, view, painter);
-  const auto drawn = map.Drawing();
-  ASSERT_EQ(drawn.size(), 1u);
-  EXPECT_EQ(drawn[0].Op, CanvasOp::Box);
-  EXPECT_EQ(drawn[0].Colour, WallColour);
+  EXPECT_EQ(Drawn(map), "Box 100 300 200 400 brick/brick");
 }
 
-TEST_F(FrameTest, CursorCellIsOutlinedTwiceAsThickAndThePenIsRestored) {
-  view.CurrentTool = WallTool;
-  view.ToolColour = Rgb(0, 200, 0);
-  view.MouseX = 15.5f * static_cast<float>(Size() * view.ZoomX);
-  view.MouseY = 14.5f * static_cast<float>(Size() * view.ZoomY);
-  PaintFrame(world, view, painter);
-  const auto boxes = terrain.Of(CanvasOp::Box);
-  const CanvasCall& border = boxes[boxes.size() - 2];
-  EXPECT_EQ(border.Colour, Blue);
-  EXPECT_EQ(border.Pen.Fill, FillStyle::Transparent);
-  EXPECT_DOUBLE_EQ(border.X2, view.Map.Width * view.ZoomX);
-  const CanvasCall& cursor = boxes.back();
-  const double side = Size() * view.ZoomX;
-  ExpectCall(cursor, CanvasOp::Box, 15 * side, 14 * side, 16 * side);
-  EXPECT_EQ(cursor.Colour, Rgb(0, 200, 0));
-  EXPECT_EQ(cursor.Pen.DrawWidth, 2);
-  EXPECT_EQ(cursor.Pen.Fill, FillStyle::Transparent);
-  for (const RecordingCanvas* view : {&terrain, &map}) {
-    EXPECT_EQ(view->Pen.Fill, FillStyle::Solid);
-    EXPECT_EQ(view->Pen.DrawWidth, 1);
-  }
-}
-
-TEST_F(FrameTest, ZoomLabelAtTheTopLeftCornerInBlueAtSize8) {
-  view.TerrainFontSize = 3;
-  PaintFrame(world, view, painter);
-  const CanvasCall& label = terrain.Calls.back();
-  EXPECT_EQ(label.Pen.FontSize, 8);
-  EXPECT_EQ(label.Pen.ForeColor, Blue);
-  EXPECT_EQ(terrain.Pen.FontSize, 3);
-  for (const auto& [zoom, text] : {std::pair{11, "ZOOM: 1.1X"}, {20, "ZOOM: 2.X"}}) {
-    view.ZoomX = view.ZoomY = zoom;
-    painter.DrawZoomLabel(world);
-    EXPECT_EQ(terrain.Calls.back().Text, text);
-  }
-}
-
-TEST_F(FrameTest, RealTicksResetABittenAntsColourOnlyOnceDrawnAndLeaveThePenAtRest) {
+TEST_F(FrameTest, RealTicksResetABittenAntsColourOnlyOnceDrawnAndShowEachFrame) {
   int frames = 0;
   ViewPainter shown(terrain, map, view, [&frames] { ++frames; });
-  IgnoredTickEvents events;
-  TickContext context{world, test.random, shown, events};
-  view.CurrentTool = WallTool;
-  view.TerrainFontSize = 4;
   Nest& nest = world.Nests[0];
   nest.Ants[1].Colour = Red;
   view.ShowAnts = 0;
-  RunTick(context, TickInputOf(test.window, world));
+  Tick(shown);
   EXPECT_EQ(nest.Ants[1].Colour, Red) << "a hidden ant keeps its bite colour";
   view.ShowAnts = 1;
   ForgetCalls();
-  RunTick(context, TickInputOf(test.window, world));
+  Tick(shown);
   EXPECT_EQ(nest.Ants[1].Colour, nest.Colour);
-  const auto circles = terrain.Of(CanvasOp::Circle);
-  EXPECT_TRUE(std::any_of(circles.begin(), circles.end(), [](const CanvasCall& c) { return c.Pen.FillColor == Red; }))
+  EXPECT_TRUE(std::any_of(terrain.Calls.begin(), terrain.Calls.end(), [](auto& c) { return c.Pen.FillColor == Red; }))
       << "drawn red once";
   EXPECT_EQ(frames, 2);
-  EXPECT_EQ(terrain.Scale.Left, view.Terrain.Left);
-  EXPECT_EQ(map.Scale.Width, view.Map.Width);
-  for (const RecordingCanvas* view : {&terrain, &map}) {
-    EXPECT_EQ(view->Pen.Fill, FillStyle::Solid);
-    EXPECT_EQ(view->Pen.DrawWidth, 1);
-  }
-  EXPECT_EQ(terrain.Pen.FontSize, 4);
-}
-
-// ---- Cells
-
-TEST_F(PainterTest, VisibleCellIsAColouredSquareOnBothViewsWithScentAndAntCount) {
-  view.ShowOdor = 1;
-  map.Pen.Fill = FillStyle::Transparent;
-  painter.DrawCell(world, SetCell(15, 14, -40.7, 3));
-  const double x0 = 14 * Size(), y0 = 13 * Size(), x1 = 15 * Size();
-  ASSERT_EQ(map.Calls.size(), 1u);
-  ExpectCall(map.Calls[0], CanvasOp::Box, x0, y0, x1);
-  EXPECT_EQ(map.Calls[0].Colour, Ochre);  // no grid on the mini-map
-  EXPECT_EQ(map.Calls[0].Pen.Fill, FillStyle::Solid);
-  const auto calls = terrain.Calls;
-  ASSERT_EQ(calls.size(), 3u);
-  ExpectCall(calls[0], CanvasOp::Box, x0 * 10, y0 * 10, x1 * 10);
-  EXPECT_EQ(calls[0].Colour, Black);
-  EXPECT_EQ(calls[0].Pen.FillColor, Ochre);
-  ExpectCall(calls[1], CanvasOp::Print, (x0 + Size() / 20) * 10, (y0 + Size() / 20) * 10, 0);
-  EXPECT_EQ(calls[1].Text, "40");
-  ExpectCall(calls[2], CanvasOp::Print, (x0 + 14 * Size() / 20) * 10, (y0 + 15 * Size() / 20) * 10, 0);
-  EXPECT_EQ(calls[2].Text, "3");
-  EXPECT_EQ(calls[2].Pen.ForeColor, Black);
-}
-
-TEST_F(PainterTest, CellNumbersFollowScentFoodAndTheOdorButton) {
-  view.ShowOdor = 1;
-  const struct {
-    double scent;
-    int16_t ants;
-    double food;
-    std::vector<std::string> texts;
-  } cases[] = {{12.9, 0, 0, {"12", "0"}}, {0, 2, 0, {"2"}}, {30, 1, 5, {"1"}}};
-  for (const auto& c : cases) {
-    ForgetCalls();
-    SetCell(15, 15, c.scent, c.ants).Food = c.food;
-    painter.DrawCell(world, world.Cells(15, 15));
-    EXPECT_EQ(Printed(), c.texts) << c.scent;
-  }
-  ForgetCalls();
-  view.ShowOdor = 0;  // hidden odor only sets the fill colour of both views
-  painter.DrawCell(world, SetCell(15, 15, -40, 3));
-  EXPECT_TRUE(terrain.Calls.empty() && map.Calls.empty());
-  EXPECT_EQ(terrain.Pen.FillColor, Ochre);
-  EXPECT_EQ(map.Pen.FillColor, Ochre);
-}
-
-TEST_F(PainterTest, CulledSquaresAreNotDrawnOnTheTerrain) {
-  view.ShowOdor = 1;
-  const double rightEdge = 10 * Size() * view.ZoomX;  // where cell column 10 ends
-  const struct {
-    ViewScale view;
-    bool drawn;
-  } cases[] = {{{rightEdge, 0, 40000, 40000}, false},
-               {{rightEdge - 1, 0, 40000, 40000}, true},
-               {{9 * Size() * 10 + 10, 14 * Size() * 10 + 10, 100, 100}, false}};  // the cell holds the whole view
-  for (const auto& c : cases) {
-    ForgetCalls();
-    view.Terrain = c.view;
-    painter.DrawCell(world, SetCell(10, 15, 5, 1));
-    EXPECT_EQ(terrain.Of(CanvasOp::Box).size(), c.drawn ? 1u : 0u) << c.view.Left;
-    EXPECT_EQ(map.Of(CanvasOp::Box).size(), 1u) << "the mini-map shows every cell";
-  }
-}
-
-// ---- Walls, nests and food piles
-
-TEST_F(PainterTest, WallsReachTheMiniMapEvenWithTheInfoPanelHidden) {
-  view.InfoVisible = false;
-  terrain.Pen.FillColor = Rgb(1, 2, 3);
-  AddWall(15, 15);  // visible
-  AddWall(1, 1);    // outside the terrain view
-  painter.DrawWalls(world);
-  const auto mapBoxes = map.Of(CanvasOp::Box);
-  ASSERT_EQ(mapBoxes.size(), 2u);
-  ExpectCall(mapBoxes[0], CanvasOp::Box, 14 * Size(), 14 * Size(), 15 * Size());
-  EXPECT_EQ(mapBoxes[0].Pen.FillColor, WallColour);
-  EXPECT_EQ(mapBoxes[0].Pen.ForeColor, Rgb(1, 2, 3));  // the terrain view's fill colour at that moment
-  const auto terrainBoxes = terrain.Of(CanvasOp::Box);
-  ASSERT_EQ(terrainBoxes.size(), 1u);
-  ExpectCall(terrainBoxes[0], CanvasOp::Box, 14 * Size() * 10, 14 * Size() * 10, 15 * Size() * 10);
-  EXPECT_EQ(terrainBoxes[0].Colour, WallColour);
-  EXPECT_EQ(terrain.Pen.ForeColor, Black);
-}
-
-TEST_F(PainterTest, NestIsAGreyDiscWithItsCellNumbersInYellowEvenOffTheView) {
-  view.ShowOdor = 1;
-  const Nest& nest = world.Nests[0];
-  world.Cells(nest.CellX, nest.CellY).Scent = -249.5;
-  painter.DrawNests(world);
-  const auto mapCircles = map.Of(CanvasOp::Circle);
-  ASSERT_EQ(mapCircles.size(), 1u);
-  EXPECT_DOUBLE_EQ(mapCircles[0].X2, nest.Radius / 10);
-  EXPECT_EQ(mapCircles[0].Pen.FillColor, Grey);
-  const auto calls = terrain.Calls;
-  ASSERT_EQ(calls.size(), 3u);
-  ExpectCall(calls[0], CanvasOp::Circle, nest.X * 10, nest.Y * 10, nest.Radius * view.ZoomX / 10);
-  EXPECT_EQ(calls[0].Colour, Grey);
-  EXPECT_EQ(calls[1].Text, "250");  // the nest scent rounds away from zero
-  EXPECT_EQ(calls[1].Pen.ForeColor, Yellow);
-  EXPECT_EQ(calls[2].Text, CStr(world.Cells(nest.CellX, nest.CellY).AntCount));
-  EXPECT_EQ(terrain.Pen.ForeColor, Black);
-
-  world.Cells(nest.CellX, nest.CellY).Scent = 0;
-  view.Terrain.Left = view.Terrain.Top = 0;
-  for (int odor : {1, 0}) {
-    ForgetCalls();
-    view.ShowOdor = static_cast<int16_t>(odor);
-    painter.DrawNests(world);
-    EXPECT_TRUE(terrain.Of(CanvasOp::Circle).empty());
-    EXPECT_EQ(terrain.Of(CanvasOp::Print).size(), odor == 1 ? 1u : 0u) << "scent 0: only the ant count";
-  }
-}
-
-TEST_F(PainterTest, FoodPileDiscAreaIsItsAmount) {
-  view.ShowOdor = 1;
-  OnlyPile(15, 16, 40000);
-  SetCell(15, 16, 77.2, 4);
-  painter.DrawFoodPiles(world);
-  const double cx = 14.5 * Size(), cy = 15.5 * Size(), r = std::sqrt(40000 / Pi);
-  const auto mapCircles = map.Of(CanvasOp::Circle);
-  ASSERT_EQ(mapCircles.size(), 1u);
-  ExpectCall(mapCircles[0], CanvasOp::Circle, cx, cy, r / 10);
-  EXPECT_EQ(mapCircles[0].Pen.FillColor, Green);
-  const auto calls = terrain.Calls;
-  ASSERT_EQ(calls.size(), 3u);
-  ExpectCall(calls[0], CanvasOp::Circle, cx * 10, cy * 10, r * view.ZoomX / 10);
-  EXPECT_EQ(calls[0].Colour, Black);
-  EXPECT_EQ(calls[0].Pen.FillColor, Green);
-  EXPECT_EQ(calls[1].Text, "77");
-  EXPECT_EQ(calls[2].Text, "4");
-  EXPECT_EQ(terrain.Pen.ForeColor, Yellow);  // left yellow for the later layers
-}
-
-TEST_F(PainterTest, EmptyPilesAndHiddenPileNumbersAreSkipped) {
-  view.ShowOdor = 1;
-  OnlyPile(15, 15, 0);
-  painter.DrawFoodPiles(world);
-  EXPECT_TRUE(terrain.Calls.empty());
-  EXPECT_TRUE(map.Calls.empty());
-  // Text anchors left of the view: the disc is partly visible, no numbers.
-  OnlyPile(10, 15, 100000);
-  view.Terrain.Left = 9 * Size() * 10 + 14 * Size() / 20 * 10 + 1;
-  painter.DrawFoodPiles(world);
-  EXPECT_EQ(terrain.Of(CanvasOp::Circle).size(), 1u);
-  EXPECT_TRUE(terrain.Of(CanvasOp::Print).empty());
-}
-
-// ---- Ant figures
-
-class AntFigureTest : public PainterTest {
- protected:
-  void SetUp() override {
-    view.ZoomX = view.ZoomY = 20;  // radii scale by ZoomX / ScaleX = 2
-    view.Terrain = {0, 0, 40000, 40000};
-    PainterTest::SetUp();
-  }
-  // Places ant index of the default nest with rear R and head H (world units).
-  Ant& Place(int index, double rx, double ry, double hx, double hy) {
-    Ant& ant = world.Nests[0].Ants[index];
-    ant.RearX = rx;
-    ant.RearY = ry;
-    ant.HeadX = hx;
-    ant.HeadY = hy;
-    ant.Colour = Red;
-    return ant;
-  }
-  void ExpectCircles(const std::vector<std::array<double, 3>>& expected) {
-    const auto circles = terrain.Of(CanvasOp::Circle);
-    ASSERT_EQ(circles.size(), expected.size());
-    for (size_t i = 0; i < expected.size(); ++i) {
-      ExpectCall(circles[i], CanvasOp::Circle, expected[i][0] * 20, expected[i][1] * 20, expected[i][2] * 2);
-    }
-  }
-};
-
-TEST_F(AntFigureTest, WorkerIsHeadMiddleAndRearCirclesInOrder) {
-  const double l = Place(1, 100, 200, 128, 200).Length;  // body along x, 28 long
-  painter.DrawAnt(world, world.Nests[0], 1);
-  ExpectCircles({{128, 200, l / 5}, {128 - 11, 200, l / 7}, {100 + 28.0 / 6, 200, l / 6}});
-  for (const CanvasCall& c : terrain.Of(CanvasOp::Circle)) {
-    EXPECT_EQ(c.Colour, Black);
-    EXPECT_EQ(c.Pen.FillColor, Red);
-  }
-  const double a = world.Nests[0].AntLength / 20;  // the mini-map: a cross and a circle
-  const auto calls = map.Calls;
-  ASSERT_EQ(calls.size(), 3u);
-  ExpectCall(calls[0], CanvasOp::Line, 114 - a, 200, 114 + a);
-  ExpectCall(calls[1], CanvasOp::Line, 114, 200 - a, 114);
-  ExpectCall(calls[2], CanvasOp::Circle, 114, 200, a);
-  for (const CanvasCall& c : calls) EXPECT_EQ(c.Colour, Red);
-}
-
-TEST_F(AntFigureTest, QueenAbdomenGrowsWithTheStore) {
-  world.Nests[0].FoodStore = 900;
-  const double l = Place(0, 100, 200, 100, 236).Length;
-  painter.DrawAnt(world, world.Nests[0], 0);
-  ExpectCircles({{100, 236, l / 8}, {100, 236 - 12, l / 5}, {100, 209, l / 4 + std::sqrt(900 / Pi)}});
-}
-
-TEST_F(AntFigureTest, LoadIsAGreenDiscAheadOfTheHeadAndOnTheMap) {
-  const double l = Place(2, 100, 200, 128, 200).Length;
-  world.Nests[0].Ants[2].Load = 300;
-  painter.DrawAnt(world, world.Nests[0], 2);
-  ExpectCircles({{135, 200, std::sqrt(300 / Pi)}, {128, 200, l / 5}, {117, 200, l / 7}, {100 + 28.0 / 6, 200, l / 6}});
-  EXPECT_EQ(terrain.Of(CanvasOp::Circle)[0].Pen.FillColor, Green);
-  const auto mapCircles = map.Of(CanvasOp::Circle);
-  ASSERT_EQ(mapCircles.size(), 2u);
-  ExpectCall(mapCircles[1], CanvasOp::Circle, 128, 200, std::sqrt(300 / Pi) / 10);
-  EXPECT_EQ(mapCircles[1].Colour, Green);
-}
-
-TEST_F(AntFigureTest, AntIsCulledOnlyWhenRearAndHeadAreBothHidden) {
-  Place(1, 100, 200, 128, 200);
-  const struct {
-    double left, width;
-    size_t circles;
-  } cases[] = {{0, 128 * 20, 3}, {100 * 20, 40000, 3}, {128 * 20, 40000, 0}};  // head on the edge; rear; both
-  for (const auto& c : cases) {
-    ForgetCalls();
-    view.Terrain = {c.left, 0, c.width, 40000};
-    painter.DrawAnt(world, world.Nests[0], 1);
-    EXPECT_EQ(terrain.Of(CanvasOp::Circle).size(), c.circles) << c.left;
-    EXPECT_EQ(map.Of(CanvasOp::Circle).size(), 1u);
-  }
 }
 
 }  // namespace

@@ -1,8 +1,9 @@
-// A canvas that draws nothing and records every call with the pen state at
-// that moment, so tests can check what a view was asked to draw and in which
-// order.
+// A canvas that draws nothing and records every drawing call with the pen
+// state at that moment, so tests can check what a view was asked to draw and
+// in which order. The last scale set is kept in Scale.
 #pragma once
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -11,7 +12,7 @@
 
 namespace keldor::testing {
 
-enum class CanvasOp { SetScale, Cls, Line, Box, Circle, Print };
+enum class CanvasOp { Cls, Line, Box, Circle, Print };
 
 struct CanvasCall {
   CanvasOp Op = CanvasOp::Cls;
@@ -26,10 +27,7 @@ struct CanvasCall {
 
 class RecordingCanvas : public Canvas {
  public:
-  void SetScale(const ViewScale& scale) override {
-    Scale = scale;
-    Record(CanvasOp::SetScale, scale.Left, scale.Top, scale.Width, scale.Height);
-  }
+  void SetScale(const ViewScale& scale) override { Scale = scale; }
   void Cls() override { Record(CanvasOp::Cls); }
   void Line(double x1, double y1, double x2, double y2, double colour) override {
     Record(CanvasOp::Line, x1, y1, x2, y2, colour);
@@ -40,27 +38,12 @@ class RecordingCanvas : public Canvas {
   void Circle(double x, double y, double radius, double colour) override {
     Record(CanvasOp::Circle, x, y, radius, 0, colour);
   }
-  void Print(std::string_view text) override {
-    Record(CanvasOp::Print, Pen.CurrentX, Pen.CurrentY, 0, 0, 0, text);
-  }
+  void Print(std::string_view text) override { Record(CanvasOp::Print, Pen.CurrentX, Pen.CurrentY, 0, 0, 0, text); }
 
-  // The recorded calls of one kind, in order.
-  std::vector<CanvasCall> Of(CanvasOp op) const {
-    std::vector<CanvasCall> found;
-    for (const CanvasCall& c : Calls) {
-      if (c.Op == op) found.push_back(c);
-    }
-    return found;
+  // How many calls of one kind were recorded.
+  size_t Count(CanvasOp op) const {
+    return static_cast<size_t>(std::count_if(Calls.begin(), Calls.end(), [op](auto& c) { return c.Op == op; }));
   }
-  // The drawing calls (everything but SetScale), in order.
-  std::vector<CanvasCall> Drawing() const {
-    std::vector<CanvasCall> found;
-    for (const CanvasCall& c : Calls) {
-      if (c.Op != CanvasOp::SetScale) found.push_back(c);
-    }
-    return found;
-  }
-  void Forget() { Calls.clear(); }
 
   std::vector<CanvasCall> Calls;
   ViewScale Scale;
