@@ -2,10 +2,11 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
+#include <string>
+#include <vector>
 
-#include "model/Numeric.h"
 #include "model/SlotList.h"
+#include "support/ScriptedDraws.h"
 #include "support/TestWorld.h"
 
 namespace keldor {
@@ -13,61 +14,73 @@ namespace {
 
 using testing::TestWorld;
 
-TEST(WorldCreationTest, DefaultWorldHasRingNestAndFood) {
+TEST(WorldCreationTest, DefaultWorldHasItsNestOnTheCentreCellAndAnEmptyRing) {
   TestWorld t(7);
   const World& w = t.world;
-  EXPECT_EQ(w.Settings.GridX, 30);
-  ASSERT_EQ(w.Cells.Columns(), 32);
-  ASSERT_EQ(w.Cells.Rows(), 32);
+  ASSERT_TRUE(w.Cells.Columns() == 32 && w.Cells.Rows() == 32);  // 30 and the ring
   for (int x = 0; x <= 31; ++x) {
     for (int y = 0; y <= 31; ++y) {
       const Cell& c = w.Cells(x, y);
       const bool ring = x == 0 || y == 0 || x == 31 || y == 31;
-      EXPECT_EQ(c.X, ring ? 0 : x);
-      EXPECT_EQ(c.Y, ring ? 0 : y);
-      EXPECT_TRUE(!ring || (c.Food == 0 && c.AntCount == 0 && c.ObjectCount() == 0)) << x << "," << y;
+      EXPECT_TRUE(ring ? c.X == 0 && c.Y == 0 && c.Food == 0 && c.AntCount == 0 : c.X == x && c.Y == y) << x << y;
     }
   }
   ASSERT_EQ(w.NestCount, 1);
   const Nest& n = w.Nests[0];
-  EXPECT_EQ(n.Name, "NEST_0");
-  EXPECT_EQ(n.CellX, 15);
-  EXPECT_EQ(n.CellY, 15);
-  EXPECT_EQ(n.AntCount(), 30);
-  EXPECT_EQ(w.Settings.Population, 30);
-  EXPECT_EQ(w.Cells(15, 15).AntCount, 30);
-
-  EXPECT_GT(w.FoodPileCount(), 0);
-  EXPECT_LT(w.FoodPileCount(), 60);  // about 2 % of 899 free cells
-  for (const FoodPile& p : w.FoodPiles) {
-    EXPECT_EQ(w.Cells(p.X, p.Y).Food, p.Amount);
-    EXPECT_GE(p.Amount, w.Settings.CellFoodCapacity() / 4 - 1e-6);
-    EXPECT_LE(p.Amount, w.Settings.CellFoodCapacity() + 1e-6);
-    EXPECT_FALSE(p.X == 15 && p.Y == 15);
-  }
-  // Workers stand head on the nest centre, each facing its own way.
-  EXPECT_NE(n.Ants[1].RearX, n.Ants[2].RearX);
-  for (int i = 1; i < n.AntCount(); ++i) {
-    const Ant& a = n.Ants[i];
-    EXPECT_TRUE(a.HeadX == n.X && a.HeadY == n.Y && a.CellX == 15) << i;
-    EXPECT_NEAR(std::hypot(a.RearX - n.X, a.RearY - n.Y), n.AntLength / 10, 1e-9);
-    EXPECT_TRUE(a.Energy > 0 && a.Energy <= Pi * a.Length * a.Length) << i;
-  }
-  EXPECT_EQ(n.Signature.ToString().find_first_not_of("01"), std::string::npos);
+  EXPECT_TRUE(n.Name == "NEST_0" && n.CellX == 15 && n.CellY == 15 && n.AntCount() == 30);
+  EXPECT_TRUE(w.Settings.Population == 30 && w.Cells(15, 15).AntCount == 30 && w.Cells(15, 15).Food == 0);
+  for (const Ant& a : n.Ants) EXPECT_TRUE(a.CellX == 15 && a.CellY == 15);
 }
 
-TEST(WorldCreationTest, SameSeedSameWorldOtherSeedOtherWorld) {
-  TestWorld a(42), b(42), c(43);
-  EXPECT_EQ(a.world.FoodPiles, b.world.FoodPiles);
-  EXPECT_EQ(a.world.Nests[0].Signature, b.world.Nests[0].Signature);
-  EXPECT_EQ(a.world.Nests[0].Ants, b.world.Nests[0].Ants);
-  EXPECT_NE(a.world.Nests[0].Ants, c.world.Nests[0].Ants);
-  EXPECT_NE(MakeSignature(a.random, 16), MakeSignature(a.random, 16));  // the clock moved on
+TEST(WorldCreationTest, NewAndCreateNestDrawInTheirOrder) {
+  TestWorld t;
+  World& w = t.world;
+  w.Settings.AntsPerNest = 2;
+  std::vector<double> draws;
+  for (int k = 0; k < 16; ++k) draws.push_back(k % 2 == 0 ? 0.2 : 0.7);  // Int(2 r): 0, 1, 0, 1, ...
+  draws.insert(draws.end(), {0.75, 0.6, 0.25, 0.5,  // queen: sign +1, 0.6 across, sign -1, energy
+                             0.25, 0.6, 0.75, 0.0,  // worker: sign -1, 0.6 across, sign +1, energy
+                             0.99, 0.5, 0.0,        // cell (1, 2): food, its budget, its amount
+                             0.98,                  // cell (2, 1): not above 98 / 100, no food
+                             0.99, 0.999, 0.5});    // cell (2, 2)
+  draws.insert(draws.end(), 20, 0.5);
+  testing::ScriptedDraws script(draws);
+  t.random.UseScript(&script);
+  NewWorld(w, t.window, t.random, {"2", "2", "3", 100});
+  // New's reseed, the signature's reseed and 16 draws, 4 per ant, 1 per free cell and 2 per pile.
+  EXPECT_EQ(script.Log, "RR" + std::string(31, 'd'));
+  const Nest& n = w.Nests[0];
+  EXPECT_TRUE(n.CellX == 1 && n.Signature.ToString() == "0101010101010101");  // Int(2 / 2)
+  // Cells 1000 wide: the nest centre is (500, 500); the queen is CInt(1000 / 2 * 10) = 5000 long.
+  EXPECT_NEAR(n.Ants[0].HeadX, 800, 1e-9);  // 500 + 0.6 * 5000 / 10
+  EXPECT_NEAR(n.Ants[0].HeadY, 100, 1e-9);  // 500 - Sqr(500^2 - 300^2)
+  EXPECT_EQ(n.Ants[0].Energy, 74612824);    // Int(3.1415926 * 5000^2 * 0.95 * 1.0)
+  EXPECT_NEAR(n.Ants[1].RearX, 489.794, 1e-9);  // 500 - 0.6 * 17.01
+  EXPECT_NEAR(n.Ants[1].RearY, 513.608, 1e-9);  // 500 + 0.8 * 17.01
+  EXPECT_EQ(n.Ants[1].Energy, 81808);           // Int(3.1415926 * 170.1^2 * 0.9)
+  ASSERT_EQ(w.FoodPileCount(), 2);
+  EXPECT_TRUE(w.FoodPiles[0].X == 1 && w.FoodPiles[0].Y == 2 && w.FoodPiles[0].SpreadBudget == 5);  // Int(0.5 * 8) + 1
+  EXPECT_NEAR(w.FoodPiles[0].Amount, 19634953.75, 1e-6);  // 3.1415926 * (0 * 3 + 1) / 4 * 5000^2
+  EXPECT_TRUE(w.FoodPiles[1].X == 2 && w.FoodPiles[1].Y == 2 && w.FoodPiles[1].SpreadBudget == 8);  // Int(7.992) + 1
+  EXPECT_NEAR(w.FoodPiles[1].Amount, 49087384.375, 1e-6);  // 3.1415926 * (0.5 * 3 + 1) / 4 * 5000^2
+  w.Settings.AntsPerNest = 1;
+  w.Settings.AntSizeMm = 1;  // a later nest takes the new size, but its queen the radius of New
+  script.Log.clear();
+  ASSERT_TRUE(CreateNest(w, t.random, 2, 2));
+  EXPECT_EQ(script.Log, "R" + std::string(20, 'd'));  // the signature's reseed and 16 draws, 4 for the queen
+  const Nest& second = w.Nests[1];
+  EXPECT_TRUE(second.Name == "NEST_1" && second.Ants[0].Length == 5000 && second.AntLength == 56.7);
+  EXPECT_EQ(w.Settings.Population, 3);
+  w.Settings.AntsPerNest = 32765;  // a nest that would take the population past 32767 is refused
+  EXPECT_FALSE(CreateNest(w, t.random, 2, 2));
+  EXPECT_TRUE(w.NestCount == 2 && w.Settings.Population == 3);
 }
 
 TEST(WorldCreationTest, GridTextRulesAndFoodRateExtremes) {
   EXPECT_EQ(TestWorld(1, {"0", "0", "3", 100}).world.Settings.GridY, 20);
-  EXPECT_EQ(TestWorld(1, {"21", "21", "3", 100}).world.Nests[0].CellX, 10);
+  const TestWorld odd(1, {"23", "23", "3", 100});
+  const Nest& centre = odd.world.Nests[0];
+  EXPECT_TRUE(centre.CellX == 11 && centre.CellY == 11);  // Int(23 / 2); rounding 11.5 would give 12
   EXPECT_EQ(TestWorld(1, {"100000", "100000", "3", 100}).world.Settings.GridX, MaxGridSize);
   EXPECT_EQ(TestWorld(1, {"-4", "-4", "3", 100}).world.Settings.GridX, MinGridSize);
   EXPECT_EQ(TestWorld(1, {"1", "1", "3", 100}).world.Cells(1, 1).AntCount, 30);  // a one-cell world holds its nest
@@ -77,81 +90,23 @@ TEST(WorldCreationTest, GridTextRulesAndFoodRateExtremes) {
   EXPECT_EQ(t.world.Cells.Columns(), 14);
 
   t.world.Settings.FoodRate = 0;
+  ToggleAnts(t.window);
   NewWorld(t.world, t.window, t.random, {});
   EXPECT_EQ(t.world.FoodPileCount(), 0);
+  EXPECT_TRUE(t.window.View.ShowAnts == 1 && t.window.Controls.AntsToolTip == "Show ants") << "New leaves the tool tip";
   t.world.Settings.FoodRate = 100;
   NewWorld(t.world, t.window, t.random, {});
   EXPECT_EQ(t.world.FoodPileCount(), 899);
 }
 
-TEST(WorldCreationTest, CreatedNestsKeepTheirNamesAndTheLastNewRadius) {
-  TestWorld t;
-  World& w = t.world;
-  const double radius = w.Nests[0].Radius;
-  w.Settings.AntSizeMm = 1.0;
-  ASSERT_TRUE(CreateNest(w, t.random, 3, 3));
-  ASSERT_TRUE(CreateNest(w, t.random, 5, 3));
-  EXPECT_EQ(w.Nests[1].Ants[0].Length, radius);
-  EXPECT_DOUBLE_EQ(w.Nests[1].AntLength, 56.7);
-  EXPECT_EQ(w.Nests[2].Name, "NEST_2");
-  EXPECT_EQ(w.Settings.Population, 90);
-  // Remove nest 0 by the list discipline: the last nest moves into slot 0.
-  w.Nests[0] = w.Nests[static_cast<size_t>(w.NestCount - 1)];
-  --w.NestCount;
-  EXPECT_EQ(w.Nests[0].Name, "NEST_2");
-  EXPECT_EQ(w.Nests[0].CellX, 5);
-  // A nest that would take the population past 32767 is refused.
-  w.Settings.AntsPerNest = 32767;
-  EXPECT_FALSE(CreateNest(w, t.random, 2, 3));
-  EXPECT_EQ(w.NestCount, 2);
-  EXPECT_EQ(w.Settings.Population, 90);
-}
-
 TEST(SlotListTest, RemoveMovesTheLastItemInAndKeepsOneSpare) {
   SlotList<FoodPile> piles;
-  EXPECT_EQ(piles.SlotCount(), 1u);
   for (int16_t x = 0; x < 4; ++x) piles.Append().X = x;
-  EXPECT_EQ(piles.SlotCount(), 5u);
-  piles.Remove(1);
-  ASSERT_EQ(piles.Count(), 3);
-  EXPECT_EQ(piles[1].X, 3);
-  EXPECT_EQ(piles[2].X, 2);
-  EXPECT_EQ(piles.SlotCount(), 4u);
-  // The new spare still holds the moved item, and Append reuses it unchanged.
-  piles.Remove(0);
-  EXPECT_EQ(piles[2].X, 2);
+  piles.Remove(1);  // 0 1 2 3 -> 0 3 2, and a spare
+  EXPECT_TRUE(piles.Count() == 3 && piles[1].X == 3 && piles[2].X == 2 && piles.SlotCount() == 4u);
+  piles.Remove(0);  // 2 3, and a spare that still holds the moved 2: Append reuses it unchanged
   EXPECT_EQ(piles.Append().X, 2);
   EXPECT_EQ(piles[piles.Count()].X, 0);  // a fresh spare is zeroed
-  piles.Reset(32767);
-  EXPECT_FALSE(piles.CanAppend());
-}
-
-TEST(CommandsTest, PlayPauseAndDisplayToggles) {
-  World before;
-  WindowState beforeWindow;
-  StartUp(before, beforeWindow);
-  ToggleOdor(beforeWindow);  // no world yet: nothing to show
-  EXPECT_EQ(beforeWindow.View.ShowOdor, 0);
-
-  TestWorld t;
-  World& w = t.world;
-  WindowState& window = t.window;
-  window.Controls.PickActionCaption = "^";
-  TogglePlayPause(w, window);
-  EXPECT_TRUE(w.Running);
-  EXPECT_EQ(window.Controls.StopImage, PlayPauseImage::Pause);
-  EXPECT_EQ(window.Controls.PickActionCaption, "v");
-  TogglePlayPause(w, window);
-  EXPECT_EQ(window.Controls.StopToolTip, "Play");
-  ToggleOdor(window);
-  EXPECT_EQ(window.View.ShowOdor, 1);
-  EXPECT_EQ(window.Controls.OdorToolTip, "Hide Odor Traces");
-  ToggleAnts(window);
-  EXPECT_EQ(window.View.ShowAnts, 0);
-  // New shows the ants again but leaves the ants tool tip as it was.
-  NewWorld(w, window, t.random, {});
-  EXPECT_EQ(window.View.ShowAnts, 1);
-  EXPECT_EQ(window.Controls.AntsToolTip, "Show ants");
 }
 
 }  // namespace
