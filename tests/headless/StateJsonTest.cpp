@@ -1,4 +1,4 @@
-#include "app/headless/StateJson.h"
+#include "snapshot/StateJson.h"
 
 #include <gtest/gtest.h>
 
@@ -15,7 +15,7 @@ namespace {
 using keldor::testing::TestWorld;
 
 QJsonObject RoundTrip(const World& w, int64_t tick) {
-  return QJsonDocument::fromJson(QJsonDocument(StateJson(w, tick)).toJson()).object();
+  return QJsonDocument::fromJson(QJsonDocument(StateJson(w, ResumeState{tick, {}, std::nullopt})).toJson()).object();
 }
 
 TEST(StateJsonTest, ContainersRoundTripWithTheirCountsAndFields) {

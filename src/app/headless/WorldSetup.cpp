@@ -44,13 +44,14 @@ std::optional<std::string> ApplySettings(World& world, const WorldOptions& optio
   return std::nullopt;
 }
 
+// The zoom and display buttons, pressed only where the world differs.
 void ApplyView(World& world, const ViewOptions& view) {
   if (view.Zoom) {
     while (world.ZoomX < *view.Zoom) cmdZoomIn_Click(world);
     while (world.ZoomX > *view.Zoom) cmdZoomOut_Click(world);
   }
-  if (view.Odor) btnOdor_Click(world);
-  if (view.HideAnts) btnAnts_Click(world);
+  if (view.Odor && world.ShowOdor == 0) btnOdor_Click(world);
+  if (view.HideAnts && world.ShowAnts != 0) btnAnts_Click(world);
 }
 
 }  // namespace
@@ -64,6 +65,18 @@ std::optional<std::string> BuildWorld(World& world, RandomSource& random, const 
   if (auto problem = ApplyScenario(world, random, options.Scenario)) return problem;
   ApplyView(world, options.View);
   if (!options.Paused) btnStop_Click(world);
+  return std::nullopt;
+}
+
+std::optional<std::string> ContinueWorld(World& world, World&& loaded, RandomSource& random,
+                                         const HeadlessOptions& options) {
+  world = std::move(loaded);
+  const double width = options.View.Width * TwipsPerPixel;
+  const double height = options.View.Height * TwipsPerPixel;
+  if (world.View.Terrain.Width != width || world.View.Terrain.Height != height) ResizeTerrainView(world, width, height);
+  if (auto problem = ApplyScenario(world, random, options.Scenario)) return problem;
+  ApplyView(world, options.View);
+  if (options.Paused && world.Running) btnStop_Click(world);
   return std::nullopt;
 }
 

@@ -1,11 +1,11 @@
-#include "app/headless/StateJson.h"
+#include "snapshot/StateJson.h"
 
 #include <QJsonArray>
 #include <QString>
 
 #include "model/World.h"
 
-namespace keldor::headless {
+namespace keldor {
 
 namespace {
 
@@ -72,7 +72,9 @@ QJsonObject NestJson(const Nest& n) {
           {"Ants", LiveItems(n.Ants, AntJson)},
           {"Colour", n.Colour},
           {"FoodStore", n.FoodStore},
-          {"LifeSpan", n.LifeSpan}};
+          {"LifeSpan", n.LifeSpan},
+          // A birth reuses the spare slot and keeps the fields it does not write.
+          {"SpareAnt", AntJson(n.Ants[n.AntCount()])}};
 }
 
 QJsonObject FoodPileJson(const FoodPile& p) {
@@ -129,6 +131,35 @@ void AddWindowState(QJsonObject& json, const World& world) {
   json.insert("CursorCellY", world.CursorCellY);
 }
 
+QJsonObject ScaleJson(const ViewScale& v) {
+  return {{"Left", v.Left}, {"Top", v.Top}, {"Width", v.Width}, {"Height", v.Height}};
+}
+
+QJsonObject ScrollBarJson(const ScrollBar& b) {
+  return {{"Min", b.Min}, {"Max", b.Max}, {"Value", b.Value}, {"SmallChange", b.SmallChange}, {"LargeChange", b.LargeChange}};
+}
+
+QJsonObject ViewJson(const Viewport& v) {
+  return {{"Terrain", ScaleJson(v.Terrain)},         {"Map", ScaleJson(v.Map)},
+          {"MapBoxWidth", v.MapBoxWidth},            {"MapBoxHeight", v.MapBoxHeight},
+          {"HScroll1", ScrollBarJson(v.HScroll1)},   {"VScroll1", ScrollBarJson(v.VScroll1)},
+          {"TerrainFontSize", v.TerrainFontSize}};
+}
+
+// The generator's words as 16 hex digits each: JSON numbers cannot hold 64 bits.
+QJsonArray RandomStateJson(const RandomState& state) {
+  QJsonArray words;
+  for (const uint64_t word : state) words.append(QString("%1").arg(word, 16, 16, QChar('0')));
+  return words;
+}
+
+void AddResumeState(QJsonObject& json, const ResumeState& resume) {
+  json.insert("FormatVersion", SnapshotFormatVersion);
+  json.insert("Tick", static_cast<qint64>(resume.Tick));
+  json.insert("RandomState", RandomStateJson(resume.Random));
+  json.insert("ClockTime", resume.ClockTime ? QJsonValue(*resume.ClockTime) : QJsonValue());
+}
+
 // World cells 1..GridX by 1..GridY, column by column; none before New.
 QJsonArray CellsJson(const World& world) {
   QJsonArray cells;
@@ -147,11 +178,12 @@ QJsonArray NestsJson(const World& world) {
 
 }  // namespace
 
-QJsonObject StateJson(const World& world, int64_t ticks) {
+QJsonObject StateJson(const World& world, const ResumeState& resume) {
   QJsonObject json;
   AddSettings(json, world);
   AddWindowState(json, world);
-  json.insert("Tick", static_cast<qint64>(ticks));
+  AddResumeState(json, resume);
+  json.insert("View", ViewJson(world.View));
   json.insert("Cells", CellsJson(world));
   json.insert("Nests", NestsJson(world));
   json.insert("FoodPiles", LiveItems(world.FoodPiles, FoodPileJson));
@@ -159,4 +191,4 @@ QJsonObject StateJson(const World& world, int64_t ticks) {
   return json;
 }
 
-}  // namespace keldor::headless
+}  // namespace keldor
