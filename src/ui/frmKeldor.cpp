@@ -1,6 +1,7 @@
 #include "ui/frmKeldor.h"
 
 #include <QCloseEvent>
+#include <QFileDialog>
 #include <QFrame>
 #include <QLabel>
 #include <QLayout>
@@ -8,15 +9,18 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <algorithm>
+#include <climits>
 #include <cmath>
 
 #include "model/Commands.h"
+#include "model/MessageBox.h"
 #include "model/OptionsForm.h"
 #include "model/Viewport.h"
 #include "platform/QtProgramStarter.h"
 #include "platform/SystemRegistry.h"
 #include "sim/TerrainTools.h"
 #include "sim/Tick.h"
+#include "snapshot/SnapshotFile.h"
 #include "ui/AppTexts.h"
 #include "ui/ButtonPictures.h"
 #include "ui/PictureBox.h"
@@ -79,6 +83,11 @@ void frmKeldor::BuildMenus() {
   QMenu* file = menuBar()->addMenu("&File");
   QAction* mnuFileNew = file->addAction("&New", this, [this] { Run([this] { mnuFileNew_Click(); }); });
   mnuFileNew->setObjectName("mnuFileNew");
+  QAction* mnuFileOpen = file->addAction("&Open World...", this, [this] { mnuFileOpen_Click(); });
+  mnuFileOpen->setObjectName("mnuFileOpen");
+  mnuFileSaveAs_ = file->addAction("Save World &As...", this, [this] { mnuFileSaveAs_Click(); });
+  mnuFileSaveAs_->setObjectName("mnuFileSaveAs");
+  file->addSeparator();
   QAction* mnuFileExit = file->addAction("&Exit", this, [this] { close(); });
   mnuFileExit->setObjectName("mnuFileExit");
 
@@ -213,6 +222,43 @@ void frmKeldor::Run(Command command) {
 }
 
 void frmKeldor::mnuFileNew_Click() { NewFromOptions(world_, random_); }
+
+namespace {
+
+// The file dialogs are Qt's own on every platform, so that they look and
+// behave the same everywhere (and tests can answer them).
+QString ChooseWorldFile(QWidget* parent, const char* caption, QFileDialog::AcceptMode mode) {
+  QFileDialog dialog(parent, caption, QString(), "Keldor worlds (*.json);;All files (*)");
+  dialog.setOption(QFileDialog::DontUseNativeDialog);
+  dialog.setAcceptMode(mode);
+  dialog.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+  dialog.setDefaultSuffix("json");
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
+  return dialog.selectedFiles().first();
+}
+
+}  // namespace
+
+void frmKeldor::mnuFileSaveAs_Click() {
+  const QString path = ChooseWorldFile(this, "Save World As", QFileDialog::AcceptSave);
+  if (path.isEmpty()) return;
+  if (const auto fault = WriteSnapshotFile(path, world_, CaptureResumeState(random_, ticksRun_))) messages_.Show(*fault);
+}
+
+void frmKeldor::mnuFileOpen_Click() {
+  const QString path = ChooseWorldFile(this, "Open World", QFileDialog::AcceptOpen);
+  if (path.isEmpty()) return;
+  World loaded;
+  ResumeState resume;
+  if (const auto fault = ReadSnapshotFile(path, loaded, resume)) {
+    messages_.Show(*fault);
+    return;
+  }
+  TakeOverWorld(world_, std::move(loaded));
+  RestoreResumeState(random_, resume);
+  ticksRun_ = static_cast<int>(std::min<int64_t>(resume.Tick, INT_MAX));
+  DoResize();  // the loaded viewport takes this window's terrain size
+}
 
 void frmKeldor::mnuOptions_Click() {
   frmOptions dialog(world_, this);
@@ -370,6 +416,7 @@ void frmKeldor::ShowControls() {
   const Qt::CursorShape cursor = c.CrossHairPointer ? Qt::CrossCursor : Qt::ArrowCursor;
   if (picTerreno_->cursor().shape() != cursor) picTerreno_->setCursor(cursor);
 
+  mnuFileSaveAs_->setEnabled(world_.HasWorld());
   mnuButtons_->setChecked(c.ButtonBarVisible);
   mnuInfo_->setChecked(c.InfoVisible);
   const bool shown[2] = {c.ButtonBarVisible, c.InfoVisible};

@@ -45,7 +45,7 @@ class frmKeldor : public QMainWindow {
   World& TheWorld() { return world_; }
   const WindowLayout& Layout() const { return layout_; }
   TwipScale Scale() const { return scale_; }
-  // Ticks run to completion so far.
+  // Ticks run to completion so far, counted on from its saved tick after Open World.
   int TicksRun() const { return ticksRun_; }
   // Runs one tick now, as Timer1 does.
   void Timer1_Timer();
@@ -66,6 +66,8 @@ class frmKeldor : public QMainWindow {
   template <typename Command>
   void Run(Command command);
   void mnuFileNew_Click();
+  void mnuFileSaveAs_Click();
+  void mnuFileOpen_Click();
   void mnuOptions_Click();
   void mnuHelpAbout_Click();
   void TerrainMouse(int kind, int buttons, QPointF pixel);
@@ -94,6 +96,7 @@ class frmKeldor : public QMainWindow {
   int ticksRun_ = 0;
   QPointer<frmOptions> options_;
 
+  QAction* mnuFileSaveAs_ = nullptr;
   QAction* mnuButtons_ = nullptr;
   QAction* mnuInfo_ = nullptr;
   QFrame* fraButtonBar_ = nullptr;

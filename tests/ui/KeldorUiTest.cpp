@@ -3,6 +3,8 @@
 // options dialog, the population-limit message, the splash and About boxes.
 #include <QAction>
 #include <QApplication>
+#include <QFileDialog>
+#include <QJsonDocument>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -17,6 +19,7 @@
 #include "model/Random.h"
 #include "model/SystemInfo.h"
 #include "platform/NoRegistry.h"
+#include "snapshot/StateJson.h"
 #include "ui/PictureBox.h"
 #include "ui/frmAbout.h"
 #include "ui/frmKeldor.h"
@@ -55,6 +58,16 @@ T* Child(QObject* parent, const char* name) {
   T* child = parent->findChild<T*>(name);
   if (child == nullptr) qFatal("no control named %s", name);
   return child;
+}
+
+// Chooses `path` in the next file dialog, opened by triggering the menu entry.
+void ChooseFile(QWidget* window, const char* entry, const QString& path) {
+  AnswerNextModal([path](QWidget* modal) {
+    auto* dialog = qobject_cast<QFileDialog*>(modal);
+    dialog->selectFile(path);
+    static_cast<QDialog*>(dialog)->accept();  // QFileDialog::accept, as the dialog's button calls it
+  });
+  Child<QAction>(window, entry)->trigger();
 }
 
 void Click(QObject* parent, const char* name) { QTest::mouseClick(Child<QPushButton>(parent, name), Qt::LeftButton); }
@@ -103,6 +116,46 @@ class KeldorUiTest : public QObject {
   }
 
   // ---- The main window
+
+  // ---- World files
+
+  void aSavedWorldOpensAndContinuesIdentically() {
+    QTemporaryDir dir;
+    const QString path = dir.filePath("world.json");
+    QVERIFY(!Child<QAction>(W(), "mnuFileSaveAs")->isEnabled());  // nothing to save before New
+    Click(W(), "btnStart");
+    Click(W(), "btnStop");
+    Click(W(), "btnOdor");
+    for (int i = 0; i < 20; ++i) window_->Timer1_Timer();
+    ChooseFile(W(), "mnuFileSaveAs", path);
+    // Ticked straight on, without the event loop (and Timer1) in between.
+    const auto tenTicksOn = [](frmKeldor& window) {
+      for (int i = 0; i < 10; ++i) window.Timer1_Timer();
+      return StateJson(window.TheWorld(), ResumeState{});
+    };
+    const QJsonObject straight = tenTicksOn(*window_);
+    const int ticks = window_->TicksRun();
+
+    VirtualClock otherClock(99);
+    frmKeldor opened(messages_, otherClock);
+    opened.show();
+    ChooseFile(&opened, "mnuFileOpen", path);
+    QCOMPARE(tenTicksOn(opened), straight);
+    QCOMPARE(opened.TicksRun(), ticks);
+    QCOMPARE(Child<QPushButton>(&opened, "btnStop")->toolTip(), QString("Pause"));
+    QCOMPARE(Child<QPushButton>(&opened, "btnOdor")->toolTip(), QString("Hide Odor Traces"));
+
+    // A damaged file is reported and leaves the world as it was.
+    QFile damaged(dir.filePath("damaged.json"));
+    QVERIFY(damaged.open(QIODevice::WriteOnly));
+    damaged.write(QJsonDocument(straight).toJson().replace("\"GridX\": 30", "\"GridX\": -30"));
+    damaged.close();
+    const QJsonObject before = StateJson(opened.TheWorld(), ResumeState{});
+    ChooseFile(&opened, "mnuFileOpen", damaged.fileName());
+    QCOMPARE(messages_.shown.size(), size_t{1});
+    QVERIFY2(messages_.shown[0].find("GridX: not a whole number") != std::string::npos, messages_.shown[0].c_str());
+    QCOMPARE(StateJson(opened.TheWorld(), ResumeState{}), before);
+  }
 
   void startsWithoutAWorldAndWithFaintDisabledButtons() {
     for (const char* name : {"btnStop", "cmdZoomIn", "cmdZoomOut", "btnOdor", "btnAnts"}) {
