@@ -7,8 +7,6 @@ namespace keldor {
 
 namespace {
 
-constexpr double SecondsPerDay = 86400.0;
-
 uint64_t SplitMix64(uint64_t& x) {
   uint64_t z = (x += 0x9E3779B97F4A7C15ULL);
   z = (z ^ (z >> 30)) * 0xBF58476D1CE4E5B9ULL;

@@ -6,9 +6,12 @@
 // so that the same seed gives the same world draw for draw.
 #pragma once
 
+#include <array>
 #include <cstdint>
 
 namespace keldor {
+
+inline constexpr double SecondsPerDay = 86400.0;
 
 class Clock {
  public:
@@ -26,6 +29,9 @@ class VirtualClock : public Clock {
   explicit VirtualClock(uint64_t seed);
   double SecondsSinceMidnight() override;
   void Advance(double seconds);
+  // The time of day the next read returns; setting it resumes a saved clock.
+  double Now() const { return now_; }
+  void SetNow(double secondsSinceMidnight) { now_ = secondsSinceMidnight; }
 
  private:
   double now_;
@@ -39,6 +45,10 @@ class DrawScript {
   virtual double NextDraw() = 0;
   virtual void Reseeded() = 0;
 };
+
+// The four words of the generator: saving and restoring them resumes the
+// sequence exactly.
+using RandomState = std::array<uint64_t, 4>;
 
 // Uniform draws in [0, 1) from xoshiro256**, seeded through splitmix64.
 class RandomSource {
@@ -59,6 +69,8 @@ class RandomSource {
   void Seed(double secondsSinceMidnight);
 
   Clock& TheClock() { return clock_; }
+  const RandomState& State() const { return state_; }
+  void SetState(const RandomState& state) { state_ = state; }
 
  private:
   static uint64_t Rotl(uint64_t x, int k) { return (x << k) | (x >> (64 - k)); }
@@ -78,7 +90,7 @@ class RandomSource {
 
   Clock& clock_;
   DrawScript* script_ = nullptr;
-  uint64_t state_[4];
+  RandomState state_{};
 };
 
 // -1 for a draw below 0.5, +1 otherwise: (-1)^(Int(2r)+1). Arithmetic rather

@@ -1,6 +1,7 @@
 #include "ui/MainWindow.h"
 
 #include <QCloseEvent>
+#include <QFileDialog>
 #include <QFrame>
 #include <QLabel>
 #include <QLayout>
@@ -8,15 +9,18 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <algorithm>
+#include <climits>
 #include <cmath>
 
 #include "window/Commands.h"
+#include "window/MessageBox.h"
 #include "window/OptionsForm.h"
 #include "window/Viewport.h"
 #include "platform/QtProgramStarter.h"
 #include "platform/SystemRegistry.h"
 #include "window/TerrainTools.h"
 #include "sim/Tick.h"
+#include "snapshot/SnapshotFile.h"
 #include "ui/AppTexts.h"
 #include "ui/ButtonPictures.h"
 #include "ui/PictureBox.h"
@@ -24,6 +28,10 @@
 #include "ui/OptionsDialog.h"
 
 namespace keldor {
+
+namespace {
+QString AskForWorldFile(QWidget* parent, const char* caption, QFileDialog::AcceptMode mode);
+}  // namespace
 
 namespace {
 
@@ -56,6 +64,7 @@ MainWindow::MainWindow(MessageBox& messages, Clock& clock, QWidget* parent)
                 devicePixelRatioF()),
       tick_{world_, random_, canvases_.Painter(), populationLimit_} {
   setObjectName("frmKeldor");
+  chooseWorldFile_ = AskForWorldFile;
   setWindowTitle(ApplicationTitle);
   setWindowIcon(AppIcon());
   auto* central = new QWidget(this);
@@ -81,6 +90,11 @@ void MainWindow::BuildMenus() {
   QMenu* file = menuBar()->addMenu("&File");
   QAction* mnuFileNew = file->addAction("&New", this, [this] { Run([this] { OnFileNew(); }); });
   mnuFileNew->setObjectName("mnuFileNew");
+  QAction* mnuFileOpen = file->addAction("&Open World...", this, [this] { OnOpenWorld(); });
+  mnuFileOpen->setObjectName("mnuFileOpen");
+  mnuFileSaveAs_ = file->addAction("Save World &As...", this, [this] { OnSaveWorldAs(); });
+  mnuFileSaveAs_->setObjectName("mnuFileSaveAs");
+  file->addSeparator();
   QAction* mnuFileExit = file->addAction("&Exit", this, [this] { close(); });
   mnuFileExit->setObjectName("mnuFileExit");
 
@@ -215,6 +229,44 @@ void MainWindow::Run(Command command) {
 }
 
 void MainWindow::OnFileNew() { NewFromOptions(world_, window_, random_); }
+
+namespace {
+
+// The file dialogs are Qt's own on every platform, so that they look and
+// behave the same everywhere (and tests can answer them).
+QString AskForWorldFile(QWidget* parent, const char* caption, QFileDialog::AcceptMode mode) {
+  QFileDialog dialog(parent, caption, QString(), "Keldor worlds (*.json);;All files (*)");
+  dialog.setOption(QFileDialog::DontUseNativeDialog);
+  dialog.setAcceptMode(mode);
+  dialog.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+  dialog.setDefaultSuffix("json");
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
+  return dialog.selectedFiles().first();
+}
+
+}  // namespace
+
+void MainWindow::OnSaveWorldAs() {
+  const QString path = chooseWorldFile_(this, "Save World As", QFileDialog::AcceptSave);
+  if (path.isEmpty()) return;
+  if (const auto fault = WriteSnapshotFile(path, world_, window_, CaptureResumeState(random_, ticksRun_))) messages_.Show(*fault);
+}
+
+void MainWindow::OnOpenWorld() {
+  const QString path = chooseWorldFile_(this, "Open World", QFileDialog::AcceptOpen);
+  if (path.isEmpty()) return;
+  World loaded;
+  WindowState loadedWindow;
+  ResumeState resume;
+  if (const auto fault = ReadSnapshotFile(path, loaded, loadedWindow, resume)) {
+    messages_.Show(*fault);
+    return;
+  }
+  TakeOverWorld(world_, window_, std::move(loaded), std::move(loadedWindow));
+  RestoreResumeState(random_, resume);
+  ticksRun_ = static_cast<int>(std::min<int64_t>(resume.Tick, INT_MAX));
+  DoResize();  // the loaded viewport takes this window's terrain size
+}
 
 void MainWindow::OnOptions() {
   OptionsDialog dialog(world_, window_, this);
@@ -369,6 +421,7 @@ void MainWindow::ShowControls() {
   const Qt::CursorShape cursor = c.CrossHairPointer ? Qt::CrossCursor : Qt::ArrowCursor;
   if (picTerreno_->cursor().shape() != cursor) picTerreno_->setCursor(cursor);
 
+  mnuFileSaveAs_->setEnabled(world_.HasWorld());
   mnuButtons_->setChecked(c.ButtonBarVisible);
   mnuInfo_->setChecked(window_.View.InfoVisible);
   const bool shown[2] = {c.ButtonBarVisible, window_.View.InfoVisible};

@@ -5,10 +5,12 @@
 // tick every 75 ms and shows the frame it drew.
 #pragma once
 
+#include <QFileDialog>
 #include <QMainWindow>
 #include <QPointer>
 #include <QTimer>
 #include <array>
+#include <functional>
 #include <memory>
 
 #include "model/Random.h"
@@ -49,10 +51,14 @@ class MainWindow : public QMainWindow {
   WindowState& Window() { return window_; }
   const WindowLayout& Layout() const { return layout_; }
   TwipScale Scale() const { return scale_; }
-  // Ticks run to completion so far.
+  // Ticks run to completion so far, counted on from its saved tick after Open World.
   int TicksRun() const { return ticksRun_; }
   // Runs one tick now, as the tick timer does.
   void AdvanceTick();
+  // Asks for the file of Open World and Save World As (an empty name cancels);
+  // Qt's file dialog unless replaced.
+  using WorldFileChooser = std::function<QString(QWidget* parent, const char* caption, QFileDialog::AcceptMode mode)>;
+  void SetWorldFileChooser(WorldFileChooser choose) { chooseWorldFile_ = std::move(choose); }
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
@@ -70,6 +76,8 @@ class MainWindow : public QMainWindow {
   template <typename Command>
   void Run(Command command);
   void OnFileNew();
+  void OnSaveWorldAs();
+  void OnOpenWorld();
   void OnOptions();
   void OnAbout();
   void TerrainMouse(int kind, int buttons, QPointF pixel);
@@ -99,7 +107,9 @@ class MainWindow : public QMainWindow {
   bool showing_ = false;
   int ticksRun_ = 0;
   QPointer<OptionsDialog> options_;
+  WorldFileChooser chooseWorldFile_;
 
+  QAction* mnuFileSaveAs_ = nullptr;
   QAction* mnuButtons_ = nullptr;
   QAction* mnuInfo_ = nullptr;
   QFrame* fraButtonBar_ = nullptr;

@@ -17,6 +17,9 @@ int16_t ClampToRange(double value, SliderRange range) {
   return static_cast<int16_t>(std::clamp<int32_t>(CInt(value), range.Min, range.Max));
 }
 
+// A colour box's number as a component: floored into 0..255.
+int ColourComponent(const std::string& text) { return static_cast<int>(Int(Max(0, Min(ToNumber(text), 255)))); }
+
 }  // namespace
 
 OptionsForm::OptionsForm(World& world, WindowState& window) : world_(world), window_(window) {
@@ -73,7 +76,7 @@ void OptionsForm::ColourTyped(ColourBox box, const std::string& text) {
     s.AntColour = Rgb(150, 100, 70);
     return;
   }
-  changed = CStr(Int(Max(0, Min(ToNumber(changed), 255))));
+  changed = CStr(ColourComponent(changed));
   preview_ = Rgb(CInt(ToNumber(colour_[0])), CInt(ToNumber(colour_[1])), CInt(ToNumber(colour_[2])));
   s.AntColour = preview_;
 }
@@ -104,7 +107,8 @@ void OptionsForm::ApplyOptions() {
   WorldSettings& s = world_.Settings;
   int16_t* components[3] = {&s.AntRed, &s.AntGreen, &s.AntBlue};
   for (int i = 0; i < 3; ++i) {
-    if (IsNumeric(colour_[i])) *components[i] = ClampToInt16(CInt(ToNumber(colour_[i])));
+    // A box typed while another held no number was never corrected: clamp it here too.
+    if (IsNumeric(colour_[i])) *components[i] = static_cast<int16_t>(ColourComponent(colour_[i]));
   }
   s.AntColour = Rgb(s.AntRed, s.AntGreen, s.AntBlue);
   s.FoodRate = static_cast<int16_t>(foodRate_);

@@ -1,4 +1,4 @@
-#include "app/headless/StateJson.h"
+#include "snapshot/StateJson.h"
 
 #include <gtest/gtest.h>
 
@@ -8,6 +8,7 @@
 
 #include "app/headless/TickCsv.h"
 #include "support/TestWorld.h"
+#include "window/WindowState.h"
 
 namespace keldor::headless {
 namespace {
@@ -16,7 +17,8 @@ using keldor::testing::TestWorld;
 
 QJsonObject RoundTrip(const World& w, int64_t tick) {
   const WindowState window;
-  return QJsonDocument::fromJson(QJsonDocument(StateJson(w, window, tick)).toJson()).object();
+  return QJsonDocument::fromJson(QJsonDocument(StateJson(w, window, ResumeState{tick, {}, std::nullopt})).toJson())
+      .object();
 }
 
 TEST(StateJsonTest, ContainersRoundTripWithTheirCountsAndFields) {

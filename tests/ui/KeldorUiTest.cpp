@@ -3,6 +3,8 @@
 // options dialog, the population-limit message, the splash and About boxes.
 #include <QAction>
 #include <QApplication>
+#include <QFileDialog>
+#include <QJsonDocument>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -17,6 +19,7 @@
 #include "model/Random.h"
 #include "window/SystemInfo.h"
 #include "platform/NoRegistry.h"
+#include "snapshot/StateJson.h"
 #include "ui/PictureBox.h"
 #include "ui/AboutBox.h"
 #include "ui/MainWindow.h"
@@ -55,6 +58,12 @@ T* Child(QObject* parent, const char* name) {
   T* child = parent->findChild<T*>(name);
   if (child == nullptr) qFatal("no control named %s", name);
   return child;
+}
+
+// Chooses `path` as the file of the menu entry (Open World, Save World As).
+void ChooseFile(MainWindow& window, const char* entry, const QString& path) {
+  window.SetWorldFileChooser([path](QWidget*, const char*, QFileDialog::AcceptMode) { return path; });
+  Child<QAction>(&window, entry)->trigger();
 }
 
 void Click(QObject* parent, const char* name) { QTest::mouseClick(Child<QPushButton>(parent, name), Qt::LeftButton); }
@@ -103,6 +112,46 @@ class KeldorUiTest : public QObject {
   }
 
   // ---- The main window
+
+  // ---- World files
+
+  void aSavedWorldOpensAndContinuesIdentically() {
+    QTemporaryDir dir;
+    const QString path = dir.filePath("world.json");
+    QVERIFY(!Child<QAction>(W(), "mnuFileSaveAs")->isEnabled());  // nothing to save before New
+    Click(W(), "btnStart");
+    Click(W(), "btnStop");
+    Click(W(), "btnOdor");
+    for (int i = 0; i < 20; ++i) window_->AdvanceTick();
+    ChooseFile(*window_, "mnuFileSaveAs", path);
+    // Ticked straight on, without the event loop (and Timer1) in between.
+    const auto tenTicksOn = [](MainWindow& window) {
+      for (int i = 0; i < 10; ++i) window.AdvanceTick();
+      return StateJson(window.TheWorld(), window.Window(), ResumeState{});
+    };
+    const QJsonObject straight = tenTicksOn(*window_);
+    const int ticks = window_->TicksRun();
+
+    VirtualClock otherClock(99);
+    MainWindow opened(messages_, otherClock);
+    opened.show();
+    ChooseFile(opened, "mnuFileOpen", path);
+    QCOMPARE(tenTicksOn(opened), straight);
+    QCOMPARE(opened.TicksRun(), ticks);
+    QCOMPARE(Child<QPushButton>(&opened, "btnStop")->toolTip(), QString("Pause"));
+    QCOMPARE(Child<QPushButton>(&opened, "btnOdor")->toolTip(), QString("Hide Odor Traces"));
+
+    // A damaged file is reported and leaves the world as it was.
+    QFile damaged(dir.filePath("damaged.json"));
+    QVERIFY(damaged.open(QIODevice::WriteOnly));
+    damaged.write(QJsonDocument(straight).toJson().replace("\"GridX\": 30", "\"GridX\": -30"));
+    damaged.close();
+    const QJsonObject before = StateJson(opened.TheWorld(), opened.Window(), ResumeState{});
+    ChooseFile(opened, "mnuFileOpen", damaged.fileName());
+    QCOMPARE(messages_.shown.size(), size_t{1});
+    QVERIFY2(messages_.shown[0].find("GridX: not a whole number") != std::string::npos, messages_.shown[0].c_str());
+    QCOMPARE(StateJson(opened.TheWorld(), opened.Window(), ResumeState{}), before);
+  }
 
   void startsWithoutAWorldAndWithFaintDisabledButtons() {
     for (const char* name : {"btnStop", "cmdZoomIn", "cmdZoomOut", "btnOdor", "btnAnts"}) {

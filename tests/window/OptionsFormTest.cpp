@@ -55,6 +55,12 @@ TEST_F(OptionsFormTest, TextBoxesAreCorrectedAsTyped) {
   form.ApplyOptions();  // the colour components change only on OK; the unreadable one stays
   EXPECT_EQ(s.AntColour, Rgb(255, 100, 12));
   EXPECT_EQ(window.PendingGridSize, 0);
+  // Typed while Green holds no number, so never corrected on change: OK clamps them.
+  form.ColourTyped(ColourBox::Red, "-50");
+  form.ColourTyped(ColourBox::Blue, "300.5");
+  form.ApplyOptions();
+  EXPECT_EQ(s.AntColour, Rgb(0, 100, 255));
+  EXPECT_TRUE(s.AntRed == 0 && s.AntBlue == 255);
 }
 
 TEST_F(OptionsFormTest, CancelKeepsOnlyWhatWasTakenOverOnChange) {

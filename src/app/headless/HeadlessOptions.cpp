@@ -4,6 +4,7 @@
 
 #include <QCommandLineOption>
 #include <QCommandLineParser>
+#include <QFileInfo>
 
 #include "model/Numeric.h"
 #include "window/OptionsForm.h"
@@ -17,6 +18,7 @@ constexpr int64_t MaxTicks = std::numeric_limits<int32_t>::max();
 
 QList<QCommandLineOption> DefineOptions() {
   return {
+      {"load", "Start from the world state FILE (a --json output) instead of New; world options are refused.", "FILE"},
       {"seed", "Reproducible run: the clock starts from seed N and advances 75 ms per tick.", "N"},
       {"grid", "Grid of N x N cells (1..181, default 30).", "N"},
       {"food-rate", "Percent chance that a free cell gets food at New (0..100, default 2).", "P"},
@@ -32,6 +34,8 @@ QList<QCommandLineOption> DefineOptions() {
       {"json", "Write the final state of the world to FILE.", "FILE"},
       {"csv", "Write one row of totals per tick to FILE.", "FILE"},
       {"png", "Write the last frame (terrain view and mini-map) to FILE.", "FILE"},
+      {"frames", "Write the frame of every Nth tick (see --every) to DIR as frame-000100.png...", "DIR"},
+      {"every", "With --frames: a frame every N ticks (default 1).", "N"},
       {"view", "Terrain view size in pixels (default 448,403).", "W,H"},
       {"zoom", "Zoom of the terrain view (2..100, default 10).", "Z"},
       {"odor", "Show the odor traces."},
@@ -125,12 +129,12 @@ class ValueReader {
     return std::pair<int, int>(static_cast<int>(*a), static_cast<int>(*b));
   }
 
- private:
   std::nullopt_t Fail(const QString& message) {
     if (error_.isEmpty()) error_ = message;
     return std::nullopt;
   }
 
+ private:
   QString error_;
 };
 
@@ -139,6 +143,9 @@ std::optional<int> AsInt(const std::optional<T>& v) {
   if (!v) return std::nullopt;
   return static_cast<int>(*v);
 }
+
+// The options that set up the world New builds; a loaded world keeps its own.
+constexpr const char* WorldOptionNames[] = {"grid", "food-rate", "ants-per-nest", "ant-size", "life-span", "food-trace"};
 
 void ReadWorldOptions(const QCommandLineParser& parser, ValueReader& read, WorldOptions& world) {
   if (parser.isSet("grid")) world.Grid = AsInt(read.Integer("grid", parser.value("grid"), MinGridSize, MaxGridSize));
@@ -174,10 +181,40 @@ void ReadScenario(const std::vector<NamedValue>& steps, ValueReader& read, std::
   }
 }
 
+// One file however it is named: through links, relative or absolute.
+QString FileIdentity(const QString& path) {
+  const QFileInfo info(path);
+  const QString canonical = info.canonicalFilePath();
+  return canonical.isEmpty() ? info.absoluteFilePath() : canonical;
+}
+
 void ReadOutputs(const QCommandLineParser& parser, ValueReader& read, HeadlessOptions& options) {
   if (parser.isSet("json")) options.JsonPath = read.Path("json", parser.value("json"));
   if (parser.isSet("csv")) options.CsvPath = read.Path("csv", parser.value("csv"));
   if (parser.isSet("png")) options.PngPath = read.Path("png", parser.value("png"));
+  if (parser.isSet("frames")) options.FramesDir = read.Path("frames", parser.value("frames"));
+  if (parser.isSet("every")) {
+    if (!parser.isSet("frames")) read.Fail("--every: only with --frames");
+    options.Every = read.Integer("every", parser.value("every"), 1, MaxTicks).value_or(1);
+  }
+  const std::pair<const char*, QString> files[] = {
+      {"json", options.JsonPath}, {"csv", options.CsvPath}, {"png", options.PngPath}};
+  for (size_t i = 0; i < std::size(files); ++i) {
+    for (size_t j = 0; j < i; ++j) {
+      if (files[i].second.isEmpty() || files[j].second.isEmpty()) continue;
+      if (FileIdentity(files[i].second) == FileIdentity(files[j].second)) {
+        read.Fail(QString("--%1: '%2' is the file --%3 writes").arg(files[i].first, files[i].second, files[j].first));
+      }
+    }
+  }
+}
+
+void ReadLoad(const QCommandLineParser& parser, ValueReader& read, HeadlessOptions& options) {
+  if (!parser.isSet("load")) return;
+  options.LoadPath = read.Path("load", parser.value("load"));
+  for (const char* name : WorldOptionNames) {
+    if (parser.isSet(name)) read.Fail(QString("--%1: not with --load (the loaded world keeps its settings)").arg(name));
+  }
 }
 
 }  // namespace
@@ -208,6 +245,7 @@ ParsedArguments ParseHeadlessArguments(const QStringList& arguments) {
 
   HeadlessOptions& o = parsed.Options;
   ValueReader read;
+  ReadLoad(parser, read, o);
   if (parser.isSet("seed")) o.Seed = read.Seed(parser.value("seed"));
   ReadWorldOptions(parser, read, o.World);
   ReadScenario(ScenarioInOrder(arguments, options), read, o.Scenario);

@@ -53,7 +53,8 @@ struct ViewOptions {
 };
 
 struct HeadlessOptions {
-  std::optional<uint64_t> Seed;  // none: seed from the real time of day
+  QString LoadPath;  // a world state file to start from instead of New
+  std::optional<uint64_t> Seed;  // none: the loaded clock, or the real time of day
   WorldOptions World;
   std::vector<ScenarioStep> Scenario;
   int64_t Ticks = 0;
@@ -62,6 +63,8 @@ struct HeadlessOptions {
   QString JsonPath;
   QString CsvPath;
   QString PngPath;
+  QString FramesDir;
+  int64_t Every = 1;  // a frame every Every ticks
 };
 
 struct ParsedArguments {

@@ -5,11 +5,10 @@
 #include <memory>
 #include <optional>
 
-#include <QJsonDocument>
-
 #include "app/headless/HeadlessOptions.h"
+#include "app/headless/Interruption.h"
 #include "app/headless/OutputFiles.h"
-#include "app/headless/StateJson.h"
+#include "app/headless/ProgressLine.h"
 #include "app/headless/StreamMessageBox.h"
 #include "app/headless/TickCsv.h"
 #include "app/headless/TickLoop.h"
@@ -21,6 +20,7 @@
 #include "platform/SystemClock.h"
 #include "platform/ViewCanvases.h"
 #include "sim/TickPainter.h"
+#include "snapshot/SnapshotFile.h"
 
 namespace keldor::headless {
 
@@ -42,7 +42,7 @@ void PrintSummary(std::ostream& out, const World& world, int64_t ticks, double s
 
 }  // namespace
 
-int RunHeadless(const QStringList& arguments, std::ostream& out, std::ostream& err) {
+int RunHeadless(const QStringList& arguments, std::ostream& out, std::ostream& err, bool showProgress) {
   const ParsedArguments parsed = ParseHeadlessArguments(arguments);
   if (parsed.Result == ParsedArguments::Outcome::Help) {
     out << parsed.Message.toStdString();
@@ -51,47 +51,76 @@ int RunHeadless(const QStringList& arguments, std::ostream& out, std::ostream& e
   if (parsed.Result == ParsedArguments::Outcome::Error) return Fail(err, parsed.Message.toStdString(), ExitBadArguments);
   const HeadlessOptions& options = parsed.Options;
 
+  std::optional<World> loaded;
+  WindowState loadedWindow;
+  ResumeState resume;
+  if (!options.LoadPath.isEmpty()) {
+    loaded.emplace();
+    if (const auto fault = ReadSnapshotFile(options.LoadPath, *loaded, loadedWindow, resume)) {
+      return Fail(err, "--load: " + *fault, ExitBadArguments);
+    }
+  }
+
+  // --seed restarts the clock; otherwise a loaded virtual clock continues.
   std::optional<VirtualClock> virtualClock;
   SystemClock systemClock;
-  if (options.Seed) virtualClock.emplace(*options.Seed);
+  if (options.Seed) {
+    virtualClock.emplace(*options.Seed);
+  } else if (resume.ClockTime) {
+    virtualClock.emplace(0);
+    virtualClock->SetNow(*resume.ClockTime);
+  }
   RandomSource random(virtualClock ? static_cast<Clock&>(*virtualClock) : systemClock);
   World world;
   WindowState window;
-  if (const auto problem = BuildWorld(world, window, random, options)) return Fail(err, *problem, ExitBadArguments);
+  if (loaded) random.SetState(resume.Random);
+  const auto problem = loaded ? ContinueWorld(world, window, std::move(*loaded), std::move(loadedWindow), random, options)
+                              : BuildWorld(world, window, random, options);
+  if (problem) return Fail(err, *problem, ExitBadArguments);
 
   OutputFiles files;
-  if (const auto problem = files.Open(options)) return Fail(err, *problem, ExitBadArguments);
+  if (const auto fault = files.Open(options)) return Fail(err, *fault, ExitBadArguments);
   std::optional<TickCsv> csv;
   if (files.Csv() != nullptr) csv.emplace(*files.Csv());
 
   StreamMessageBox messages(err);
   PopulationLimitNotice populationLimit(world, window, messages);
   // Every tick clears both views and draws them whole, so drawing only the
-  // last tick gives the frame the window shows after it.
+  // ticks whose frame is saved gives the frames the window shows after them.
   NullPainter noDrawing;
   std::optional<ViewCanvases> views;
-  if (files.Png() != nullptr) views.emplace(QSize(options.View.Width, options.View.Height), MapBoxPixels(), window.View);
-  TickPainter& lastTickPainter = views ? static_cast<TickPainter&>(views->Painter()) : noDrawing;
+  if (files.Png() != nullptr || files.WritesFrames()) {
+    views.emplace(QSize(options.View.Width, options.View.Height), MapBoxPixels(), window.View);
+  }
+  const int64_t first = resume.Tick + 1;
+  const int64_t last = resume.Tick + options.Ticks;
+  const auto savesFrame = [&](int64_t tick) { return files.WritesFrames() && tick % options.Every == 0; };
+  const auto painterFor = [&](int64_t tick) -> TickPainter& {
+    if (tick == last && files.Png() != nullptr) return views->Painter();
+    return savesFrame(tick) ? static_cast<TickPainter&>(views->Painter()) : noDrawing;
+  };
   const TickLoop loop{world, window, random, populationLimit, virtualClock ? &*virtualClock : nullptr};
+  std::optional<std::string> frameFault;
   const auto start = std::chrono::steady_clock::now();
-  RunTicks(loop, options.Ticks, noDrawing, lastTickPainter, [&](int64_t tick) {
-    if (csv) csv->WriteRow(tick, world);
-  });
+  int64_t lastRun = resume.Tick;
+  {
+    ProgressLine progress(err, showProgress, first, last);
+    lastRun = RunTicks(loop, first, last, painterFor, [&](int64_t tick) {
+      if (csv) csv->WriteRow(tick, world);
+      if (savesFrame(tick)) frameFault = files.WriteFrame(tick, views->Frame());
+      progress.TickDone(tick);
+      return !frameFault && InterruptingSignal() == 0;
+    });
+  }
   const std::chrono::duration<double> elapsed = std::chrono::steady_clock::now() - start;
+  if (frameFault) return Fail(err, *frameFault, ExitWriteFailed);
+  if (const int signal = InterruptingSignal()) {
+    return Fail(err, "interrupted after tick " + std::to_string(lastRun) + "; no file was replaced", ExitInterrupted + signal);
+  }
 
-  if (files.Csv() != nullptr && !files.Csv()->flush()) {
-    return Fail(err, "--csv: writing '" + options.CsvPath.toStdString() + "' failed", ExitWriteFailed);
-  }
-  if (QFile* json = files.Json()) {
-    if (json->write(QJsonDocument(StateJson(world, window, options.Ticks)).toJson()) < 0 || !json->flush()) {
-      return Fail(err, "--json: writing '" + options.JsonPath.toStdString() + "' failed", ExitWriteFailed);
-    }
-  }
-  if (QFile* png = files.Png()) {
-    if (!views->Frame().save(png, "PNG") || !png->flush()) {
-      return Fail(err, "--png: writing '" + options.PngPath.toStdString() + "' failed", ExitWriteFailed);
-    }
-  }
+  if (QSaveFile* json = files.Json()) json->write(SnapshotText(world, window, CaptureResumeState(random, last)));
+  if (QSaveFile* png = files.Png()) views->Frame().save(png, "PNG");
+  if (const auto fault = files.Commit()) return Fail(err, *fault, ExitWriteFailed);
   PrintSummary(out, world, options.Ticks, elapsed.count());
   return ExitOk;
 }

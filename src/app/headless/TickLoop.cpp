@@ -7,15 +7,17 @@
 
 namespace keldor::headless {
 
-void RunTicks(const TickLoop& loop, int64_t count, TickPainter& painter, TickPainter& lastPainter,
-              const std::function<void(int64_t)>& afterTick) {
-  for (int64_t tick = 1; tick <= count; ++tick) {
-    TickContext context{loop.world, loop.random, tick == count ? lastPainter : painter, loop.events};
+int64_t RunTicks(const TickLoop& loop, int64_t first, int64_t last,
+                 const std::function<TickPainter&(int64_t)>& painterFor,
+                 const std::function<bool(int64_t)>& afterTick) {
+  for (int64_t tick = first; tick <= last; ++tick) {
+    TickContext context{loop.world, loop.random, painterFor(tick), loop.events};
     RunTick(context, TickInputOf(loop.window, loop.world));
     ShowPopulation(loop.world, loop.window);
     if (loop.clock != nullptr) loop.clock->Advance(TickPeriodSeconds);
-    afterTick(tick);
+    if (!afterTick(tick)) return tick;
   }
+  return last;
 }
 
 }  // namespace keldor::headless

@@ -27,9 +27,11 @@ struct TickLoop {
   VirtualClock* clock = nullptr;  // null when the real time of day drives the random source
 };
 
-// Runs ticks 1..count. Every tick draws on `painter` but the last, which draws
-// on `lastPainter`; afterTick(n) sees the world after tick n.
-void RunTicks(const TickLoop& loop, int64_t count, TickPainter& painter, TickPainter& lastPainter,
-              const std::function<void(int64_t)>& afterTick);
+// Runs ticks first..last (numbered as the world counts them). Tick n draws on
+// painterFor(n); afterTick(n) sees the world after tick n and returns false to
+// stop the run there. Returns the number of the last tick run.
+int64_t RunTicks(const TickLoop& loop, int64_t first, int64_t last,
+                 const std::function<TickPainter&(int64_t)>& painterFor,
+                 const std::function<bool(int64_t)>& afterTick);
 
 }  // namespace keldor::headless

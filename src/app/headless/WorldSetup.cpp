@@ -45,13 +45,14 @@ std::optional<std::string> ApplySettings(World& world, const WorldOptions& optio
   return std::nullopt;
 }
 
+// The zoom and display buttons, pressed only where the world differs.
 void ApplyView(WindowState& window, const ViewOptions& view) {
   if (view.Zoom) {
     while (window.View.ZoomX < *view.Zoom) ZoomIn(window);
     while (window.View.ZoomX > *view.Zoom) ZoomOut(window);
   }
-  if (view.Odor) ToggleOdor(window);
-  if (view.HideAnts) ToggleAnts(window);
+  if (view.Odor && window.View.ShowOdor == 0) ToggleOdor(window);
+  if (view.HideAnts && window.View.ShowAnts != 0) ToggleAnts(window);
 }
 
 }  // namespace
@@ -66,6 +67,20 @@ std::optional<std::string> BuildWorld(World& world, WindowState& window, RandomS
   if (auto problem = ApplyScenario(world, window, random, options.Scenario)) return problem;
   ApplyView(window, options.View);
   if (!options.Paused) TogglePlayPause(world, window);
+  return std::nullopt;
+}
+
+std::optional<std::string> ContinueWorld(World& world, WindowState& window, World&& loaded, WindowState&& loadedWindow,
+                                         RandomSource& random, const HeadlessOptions& options) {
+  world = std::move(loaded);
+  window = std::move(loadedWindow);
+  const double width = options.View.Width * TwipsPerPixel;
+  const double height = options.View.Height * TwipsPerPixel;
+  const ViewScale& terrain = window.View.Terrain;
+  if (terrain.Width != width || terrain.Height != height) ResizeTerrainView(window, width, height);
+  if (auto problem = ApplyScenario(world, window, random, options.Scenario)) return problem;
+  ApplyView(window, options.View);
+  if (options.Paused && world.Running) TogglePlayPause(world, window);
   return std::nullopt;
 }
 

@@ -1,7 +1,7 @@
 // Builds the world a batch run starts from, as a user of the desktop program
 // would: start-up, the window sized to the requested view, the options dialog's
 // settings, New, the scenario, the zoom and display buttons, then Play unless
-// the run is to stay paused.
+// the run is to stay paused; or from a world state file.
 #pragma once
 
 #include <optional>
@@ -21,5 +21,11 @@ namespace keldor::headless {
 // world (an ant longer than the nest radius, a scenario cell outside it...).
 std::optional<std::string> BuildWorld(World& world, WindowState& window, RandomSource& random,
                                       const HeadlessOptions& options);
+
+// Takes over a loaded world instead: the terrain view resized when its size
+// differs, the scenario, the zoom, odor and ants as asked, and Pause when the
+// run is to stay paused; otherwise the world plays or stays paused as saved.
+std::optional<std::string> ContinueWorld(World& world, WindowState& window, World&& loaded, WindowState&& loadedWindow,
+                                         RandomSource& random, const HeadlessOptions& options);
 
 }  // namespace keldor::headless

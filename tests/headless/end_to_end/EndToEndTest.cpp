@@ -1,6 +1,7 @@
 // Runs the real keldor-headless executable as a user would.
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QFile>
 #include <QImage>
 #include <QJsonArray>
@@ -8,6 +9,9 @@
 #include <QJsonObject>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <QThread>
+
+#include <csignal>
 
 namespace {
 
@@ -120,6 +124,33 @@ TEST(EndToEndTest, PngHoldsTheTerrainViewAndMiniMapWithoutADisplay) {
   EXPECT_EQ(small.pixel(terrainPixel({300, 200}, 4)) | 0xff000000u, nestGrey);
   const int zoomedOutNestArea = CountPixels(small, QRect(0, 0, 300, 200), nestGrey);
   EXPECT_TRUE(zoomedOutNestArea > 0 && zoomedOutNestArea < CountPixels(plain, QRect(0, 0, 448, 403), nestGrey) / 4);
+}
+
+TEST(EndToEndTest, ResumedRunEqualsTheStraightRunAndAnInterruptedRunReplacesNoFile) {
+  QTemporaryDir dir;
+  const QString straight = dir.filePath("straight.json"), saved = dir.filePath("saved.json");
+  const QStringList world = {"--seed", "6", "--life-span", "1", "--ants-per-nest", "50"};
+  ASSERT_EQ(RunProgram(world + QStringList{"--ticks", "300", "--json", straight}).status, 0);
+  ASSERT_EQ(RunProgram(world + QStringList{"--ticks", "200", "--json", saved}).status, 0);
+  const QString resumed = dir.filePath("resumed.json");
+  ASSERT_EQ(RunProgram({"--load", saved, "--ticks", "100", "--json", resumed}).status, 0);
+  EXPECT_EQ(ReadAll(resumed), ReadAll(straight));
+
+  // Ctrl+C in the middle of a long run: the earlier files stay whole.
+  const QString csv = dir.filePath("t.csv");
+  QFile(csv).open(QIODevice::WriteOnly);
+  QFile::copy(straight, dir.filePath("kept"));
+  QProcess p;
+  p.start(KELDOR_HEADLESS_EXECUTABLE, {"--seed", "1", "--ticks", "100000000", "--json", straight, "--csv", csv});
+  ASSERT_TRUE(p.waitForStarted());
+  QThread::msleep(1000);  // the handlers are in place from the start of main
+  ::kill(static_cast<pid_t>(p.processId()), SIGINT);
+  ASSERT_TRUE(p.waitForFinished(20000));
+  EXPECT_EQ(p.exitStatus(), QProcess::NormalExit);
+  EXPECT_EQ(p.exitCode(), 128 + SIGINT);
+  EXPECT_EQ(ReadAll(straight), ReadAll(dir.filePath("kept")));
+  EXPECT_TRUE(ReadAll(csv).isEmpty());
+  EXPECT_EQ(QDir(dir.path()).entryList(QDir::Files).size(), 5) << "a temporary file stayed behind";
 }
 
 }  // namespace

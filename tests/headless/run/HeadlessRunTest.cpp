@@ -11,6 +11,7 @@
 #include <QTemporaryDir>
 
 #include "app/headless/WorldSetup.h"
+#include "headless/run/InProcessRun.h"
 #include "model/Queries.h"
 #include "support/TestWorld.h"
 
@@ -93,21 +94,6 @@ TEST(ScenarioSetupTest, ReportsTheFirstArgumentThatCannotApply) {
   ASSERT_TRUE(full.problem);
   EXPECT_EQ(full.problem->rfind("--nest 1,1: ", 0), 0u) << *full.problem;
   EXPECT_EQ(full.world.NestCount, 1);
-}
-
-struct InProcessRun {
-  explicit InProcessRun(QStringList arguments) {
-    arguments.prepend("keldor-headless");
-    status = RunHeadless(arguments, out, err);
-  }
-  int status = -1;
-  std::ostringstream out;
-  std::ostringstream err;
-};
-
-QByteArray ReadAll(const QString& path) {
-  QFile file(path);
-  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 QJsonObject ReadJson(const QString& path) { return QJsonDocument::fromJson(ReadAll(path)).object(); }

@@ -1,4 +1,4 @@
-#include "app/headless/StateJson.h"
+#include "snapshot/StateJson.h"
 
 #include <QJsonArray>
 #include <QString>
@@ -6,7 +6,7 @@
 #include "model/World.h"
 #include "window/WindowState.h"
 
-namespace keldor::headless {
+namespace keldor {
 
 namespace {
 
@@ -73,7 +73,9 @@ QJsonObject NestJson(const Nest& n) {
           {"Ants", LiveItems(n.Ants, AntJson)},
           {"Colour", n.Colour},
           {"FoodStore", n.FoodStore},
-          {"LifeSpan", n.LifeSpan}};
+          {"LifeSpan", n.LifeSpan},
+          // A birth reuses the spare slot and keeps the fields it does not write.
+          {"SpareAnt", AntJson(n.Ants[n.AntCount()])}};
 }
 
 QJsonObject FoodPileJson(const FoodPile& p) {
@@ -130,6 +132,35 @@ void AddWindowState(QJsonObject& json, const World& world, const WindowState& wi
   json.insert("CursorCellY", window.CursorCellY);
 }
 
+QJsonObject ScaleJson(const ViewScale& v) {
+  return {{"Left", v.Left}, {"Top", v.Top}, {"Width", v.Width}, {"Height", v.Height}};
+}
+
+QJsonObject ScrollBarJson(const ScrollBar& b) {
+  return {{"Min", b.Min}, {"Max", b.Max}, {"Value", b.Value}, {"SmallChange", b.SmallChange}, {"LargeChange", b.LargeChange}};
+}
+
+QJsonObject ViewJson(const WindowState& w) {
+  return {{"Terrain", ScaleJson(w.View.Terrain)},   {"Map", ScaleJson(w.View.Map)},
+          {"MapBoxWidth", MapBoxSize},              {"MapBoxHeight", MapBoxSize},
+          {"HScroll1", ScrollBarJson(w.HScroll1)},  {"VScroll1", ScrollBarJson(w.VScroll1)},
+          {"TerrainFontSize", w.View.TerrainFontSize}};
+}
+
+// The generator's words as 16 hex digits each: JSON numbers cannot hold 64 bits.
+QJsonArray RandomStateJson(const RandomState& state) {
+  QJsonArray words;
+  for (const uint64_t word : state) words.append(QString("%1").arg(word, 16, 16, QChar('0')));
+  return words;
+}
+
+void AddResumeState(QJsonObject& json, const ResumeState& resume) {
+  json.insert("FormatVersion", SnapshotFormatVersion);
+  json.insert("Tick", static_cast<qint64>(resume.Tick));
+  json.insert("RandomState", RandomStateJson(resume.Random));
+  json.insert("ClockTime", resume.ClockTime ? QJsonValue(*resume.ClockTime) : QJsonValue());
+}
+
 // World cells 1..GridX by 1..GridY, column by column; none before New.
 QJsonArray CellsJson(const World& world) {
   QJsonArray cells;
@@ -148,11 +179,12 @@ QJsonArray NestsJson(const World& world) {
 
 }  // namespace
 
-QJsonObject StateJson(const World& world, const WindowState& window, int64_t ticks) {
+QJsonObject StateJson(const World& world, const WindowState& window, const ResumeState& resume) {
   QJsonObject json;
   AddSettings(json, world, window);
   AddWindowState(json, world, window);
-  json.insert("Tick", static_cast<qint64>(ticks));
+  AddResumeState(json, resume);
+  json.insert("View", ViewJson(window));
   json.insert("Cells", CellsJson(world));
   json.insert("Nests", NestsJson(world));
   json.insert("FoodPiles", LiveItems(world.FoodPiles, FoodPileJson));
@@ -160,4 +192,4 @@ QJsonObject StateJson(const World& world, const WindowState& window, int64_t tic
   return json;
 }
 
-}  // namespace keldor::headless
+}  // namespace keldor
