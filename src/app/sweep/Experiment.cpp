@@ -71,7 +71,7 @@ class ExperimentReader {
     }
   }
 
-  std::vector<std::pair<std::string, JsonValue>> Options(const JsonValue& options) {
+  std::vector<JsonMember> Options(const JsonValue& options) {
     if (options.Type != JsonValue::Kind::Object) Fail("\"options\" must be an object");
     for (const auto& [name, value] : options.Members) CheckValue("options", name, value);
     return options.Members;
@@ -91,8 +91,9 @@ class ExperimentReader {
       }
     }
     const double steps = (last->Number - first->Number) / step->Number;
-    if (step->Number == 0 || !(steps > -1e-9) || steps >= static_cast<double>(MaxRuns)) {
-      Fail(where + ": a step of " + step->Text + " from " + first->Text + " does not reach " + last->Text);
+    if (step->Number == 0 || !(steps > -1e-9) || steps >= static_cast<double>(MaxValues)) {
+      Fail(where + ": a step of " + step->Text + " from " + first->Text + " does not reach " + last->Text +
+           " in at most " + std::to_string(MaxValues) + " values");
       return {};
     }
     const int decimals = std::max(Decimals(first->Text), Decimals(step->Text));
@@ -237,7 +238,7 @@ ExperimentParse ParseExperiment(std::string_view text) {
   }
   if (root.Find("ticks") == nullptr) read.Fail("\"ticks\" is missing");
   for (const VariedOption& v : e.Vary) {
-    if (std::any_of(e.Options.begin(), e.Options.end(), [&](const auto& o) { return o.first == v.Name; })) {
+    if (std::any_of(e.Options.begin(), e.Options.end(), [&](const auto& o) { return o.Name == v.Name; })) {
       read.Fail("\"" + v.Name + "\" is both in \"options\" and in \"vary\"");
     }
   }

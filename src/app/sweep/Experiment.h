@@ -10,7 +10,6 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 #include <QStringList>
@@ -19,8 +18,9 @@
 
 namespace keldor::sweep {
 
-// A sweep refuses to plan more runs than this.
-inline constexpr int64_t MaxRuns = 100'000'000;
+// A sweep refuses to plan more runs than this, or more values of one option.
+inline constexpr int64_t MaxRuns = 10'000'000;
+inline constexpr int64_t MaxValues = 100'000;
 // The largest seed a JSON number holds exactly.
 inline constexpr double MaxSeed = 9007199254740992.0;  // 2^53
 
@@ -38,7 +38,7 @@ struct RunSpec {
 };
 
 struct Experiment {
-  std::vector<std::pair<std::string, JsonValue>> Options;  // in file order
+  std::vector<JsonMember> Options;  // in file order
   std::vector<VariedOption> Vary;                           // in file order
   int64_t Repetitions = 1;
   uint64_t Seed = 0;

@@ -97,7 +97,7 @@ class JsonReader {
       SkipSpace();
       JsonValue member;
       if (!Value(member, depth + 1)) return false;
-      out.Members.emplace_back(std::move(name), std::move(member));
+      out.Members.push_back({std::move(name), std::move(member)});
       SkipSpace();
       if (Peek() == '}') return ++pos_, true;
       if (Peek() != ',') return Fail("expected ',' or '}'");

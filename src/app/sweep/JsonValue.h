@@ -6,10 +6,11 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 namespace keldor::sweep {
+
+struct JsonMember;
 
 struct JsonValue {
   enum class Kind { Null, Bool, Number, String, Array, Object };
@@ -18,10 +19,15 @@ struct JsonValue {
   double Number = 0;
   std::string Text;  // a string's characters (UTF-8), or a number as written
   std::vector<JsonValue> Items;
-  std::vector<std::pair<std::string, JsonValue>> Members;  // in file order, names unique
+  std::vector<JsonMember> Members;  // in file order, names unique
 
   // The member named `name`, or null.
   const JsonValue* Find(std::string_view name) const;
+};
+
+struct JsonMember {
+  std::string Name;
+  JsonValue Value;
 };
 
 struct JsonParse {

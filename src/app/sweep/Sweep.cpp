@@ -4,6 +4,7 @@
 #include <chrono>
 #include <condition_variable>
 #include <iomanip>
+#include <map>
 #include <mutex>
 #include <thread>
 #include <vector>
@@ -70,7 +71,7 @@ FinishedRun Execute(const Experiment& experiment, const QString& outPath, int64_
 template <class Write>
 void RunPool(const Experiment& experiment, const QString& outPath, const std::vector<int64_t>& pending, int jobs,
              Write write) {
-  std::vector<std::optional<FinishedRun>> finished(pending.size());
+  std::map<size_t, FinishedRun> finished;  // by index in `pending`, until written
   std::mutex mutex;
   std::condition_variable ready;
   std::atomic<size_t> next{0};
@@ -79,7 +80,7 @@ void RunPool(const Experiment& experiment, const QString& outPath, const std::ve
     for (size_t i = next++; i < pending.size() && !stop; i = next++) {
       FinishedRun run = Execute(experiment, outPath, pending[i]);
       const std::lock_guard lock(mutex);
-      finished[i] = std::move(run);
+      finished.emplace(i, std::move(run));
       ready.notify_all();
     }
   };
@@ -87,9 +88,8 @@ void RunPool(const Experiment& experiment, const QString& outPath, const std::ve
   for (int j = 0; j < std::min<int64_t>(jobs, static_cast<int64_t>(pending.size())); ++j) threads.emplace_back(work);
   for (size_t i = 0; i < pending.size() && !stop; ++i) {
     std::unique_lock lock(mutex);
-    ready.wait(lock, [&] { return finished[i].has_value(); });
-    FinishedRun run = std::move(*finished[i]);
-    finished[i].reset();
+    ready.wait(lock, [&] { return finished.contains(i); });
+    const FinishedRun run = std::move(finished.extract(i).mapped());
     lock.unlock();
     if (!write(pending[i], run)) stop = true;
   }
