@@ -261,4 +261,13 @@ ParsedArguments ParseHeadlessArguments(const QStringList& arguments) {
   return parsed;
 }
 
+std::optional<OptionForm> FindOptionForm(const QString& name) {
+  for (const QCommandLineOption& o : DefineOptions()) {
+    if (!o.names().contains(name)) continue;
+    if (ScenarioKindOf(name)) return OptionForm::Repeatable;
+    return o.valueName().isEmpty() ? OptionForm::Flag : OptionForm::Value;
+  }
+  return std::nullopt;
+}
+
 }  // namespace keldor::headless

@@ -77,4 +77,9 @@ struct ParsedArguments {
 // Parses the full argument list (program name first).
 ParsedArguments ParseHeadlessArguments(const QStringList& arguments);
 
+// How an option (named without its dashes) is given: a flag alone, one
+// value, or a value that may repeat (the scenario steps). None: no such option.
+enum class OptionForm { Flag, Value, Repeatable };
+std::optional<OptionForm> FindOptionForm(const QString& name);
+
 }  // namespace keldor::headless

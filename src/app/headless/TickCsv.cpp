@@ -20,10 +20,12 @@ std::string Shortest(double v) {
 
 TickCsv::TickCsv(std::ostream& out) : out_(out) { out_ << TickCsvHeader << '\n'; }
 
-void TickCsv::WriteRow(int64_t tick, const World& world) {
+void WriteTickCsvRow(std::ostream& out, int64_t tick, const World& world) {
   const TickTotals t = MeasureTotals(world);
-  out_ << tick << ',' << t.Population << ',' << t.NestCount << ',' << t.FoodPileCount << ',' << Shortest(t.FoodOnMap)
-       << ',' << Shortest(t.FoodStored) << ',' << Shortest(t.Carrying) << ',' << t.ScentedCells << '\n';
+  out << tick << ',' << t.Population << ',' << t.NestCount << ',' << t.FoodPileCount << ',' << Shortest(t.FoodOnMap)
+      << ',' << Shortest(t.FoodStored) << ',' << Shortest(t.Carrying) << ',' << t.ScentedCells << '\n';
 }
+
+void TickCsv::WriteRow(int64_t tick, const World& world) { WriteTickCsvRow(out_, tick, world); }
 
 }  // namespace keldor::headless

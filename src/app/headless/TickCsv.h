@@ -13,6 +13,9 @@ namespace keldor::headless {
 
 inline constexpr const char* TickCsvHeader = "tick,Population,NestCount,FoodPileCount,FoodOnMap,FoodStored,Carrying,ScentedCells";
 
+// Writes one row: the totals of the world as it is after tick number `tick`.
+void WriteTickCsvRow(std::ostream& out, int64_t tick, const World& world);
+
 class TickCsv {
  public:
   // Writes the header line.

@@ -1,0 +1,70 @@
+// An experiment: the keldor-headless options every run shares, the options
+// it varies with their values, how often each combination repeats, the seed,
+// the tick count and how often a run's series gets a row.
+//
+// Runs are numbered from 0. Combinations are counted with the varied keys in
+// file order, the last key varying fastest; run r is repetition
+// r % repetitions of combination r / repetitions and gets seed seed + r % repetitions.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <QStringList>
+
+#include "app/sweep/JsonValue.h"
+
+namespace keldor::sweep {
+
+// A sweep refuses to plan more runs than this, or more values of one option.
+inline constexpr int64_t MaxRuns = 10'000'000;
+inline constexpr int64_t MaxValues = 100'000;
+// The largest seed a JSON number holds exactly.
+inline constexpr double MaxSeed = 9007199254740992.0;  // 2^53
+
+struct VariedOption {
+  std::string Name;
+  std::vector<JsonValue> Values;  // each a value as "options" takes it
+};
+
+// What one run is given.
+struct RunSpec {
+  int64_t Run = 0;
+  uint64_t Seed = 0;
+  std::vector<std::string> VariedValues;  // the varied options' values as text, in key order
+  QStringList Arguments;                  // a keldor-headless command line, program name first
+};
+
+struct Experiment {
+  std::vector<JsonMember> Options;  // in file order
+  std::vector<VariedOption> Vary;                           // in file order
+  int64_t Repetitions = 1;
+  uint64_t Seed = 0;
+  std::string Ticks = "0";  // as written, checked by the option parser
+  int64_t Every = 0;        // 0: no series files
+
+  int64_t CombinationCount() const;
+  int64_t RunCount() const { return CombinationCount() * Repetitions; }
+  RunSpec Run(int64_t run) const;
+  // The command line of the shared options, the seed and the tick count.
+  QStringList BaseArguments() const;
+  // The same with one value of a varied option.
+  QStringList ArgumentsWith(const VariedOption& varied, const JsonValue& value) const;
+};
+
+struct ExperimentParse {
+  Experiment Result;
+  std::string Error;  // empty when the file was read; else names the key or value
+};
+
+// Reads an experiment file's text. Checks its shape (known keys, value
+// types, ranges given as {"first","step","last"}); the option values
+// themselves are checked by CheckExperiment.
+ExperimentParse ParseExperiment(std::string_view text);
+
+// The text a value of an option gives in the results table.
+std::string ValueText(const JsonValue& value);
+
+}  // namespace keldor::sweep

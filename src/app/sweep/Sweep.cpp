@@ -1,0 +1,166 @@
+#include "app/sweep/Sweep.h"
+
+#include <atomic>
+#include <chrono>
+#include <condition_variable>
+#include <iomanip>
+#include <map>
+#include <mutex>
+#include <thread>
+#include <vector>
+
+#include <QFile>
+#include <QSaveFile>
+
+#include "app/headless/HeadlessRun.h"
+#include "app/sweep/ExperimentCheck.h"
+#include "app/sweep/ProgressBar.h"
+#include "app/sweep/ResultsFile.h"
+#include "app/sweep/SweepOptions.h"
+#include "app/sweep/SweepRun.h"
+
+namespace keldor::sweep {
+
+using headless::ExitBadArguments;
+using headless::ExitOk;
+using headless::ExitWriteFailed;
+
+namespace {
+
+constexpr const char* ProgramName = "keldor-sweep";
+
+int Fail(std::ostream& err, const std::string& message, int status) {
+  err << ProgramName << ": " << message << std::endl;
+  return status;
+}
+
+// A run's series table beside the results: results.csv -> results-run-000012.csv.
+QString SeriesPath(const QString& outPath, int64_t run) {
+  const QString base = outPath.endsWith(".csv") ? outPath.chopped(4) : outPath;
+  return base + QString("-run-%1.csv").arg(run, 6, 10, QChar('0'));
+}
+
+struct FinishedRun {
+  std::string Row;
+  std::string Messages;
+  std::string Error;  // empty when the run succeeded
+  int Status = ExitOk;
+};
+
+FinishedRun Execute(const Experiment& experiment, const QString& outPath, int64_t run) {
+  const RunSpec spec = experiment.Run(run);
+  headless::HeadlessOptions options;
+  if (auto problem = ParseRunArguments(spec.Arguments, options)) {
+    return {"", "", "run " + std::to_string(run) + ": " + *problem, ExitBadArguments};
+  }
+  const RunOutcome outcome = RunOne(options, experiment.Every);
+  if (outcome.Error) return {"", "", "run " + std::to_string(run) + ": " + *outcome.Error, ExitBadArguments};
+  if (experiment.Every > 0) {
+    QSaveFile series(SeriesPath(outPath, run));
+    if (!series.open(QIODevice::WriteOnly) || series.write(outcome.Series.data(), outcome.Series.size()) < 0 ||
+        !series.commit()) {
+      return {"", "", "writing '" + series.fileName().toStdString() + "' failed", ExitWriteFailed};
+    }
+  }
+  return {ResultsRow(spec, outcome.LastRow), outcome.Messages, "", ExitOk};
+}
+
+// Runs the pending runs on `jobs` threads. Each thread takes the next run in
+// order; the calling thread hands each finished run to `write` in that order.
+// A false return from `write` stops the pool after the runs under way.
+template <class Write>
+void RunPool(const Experiment& experiment, const QString& outPath, const std::vector<int64_t>& pending, int jobs,
+             Write write) {
+  std::map<size_t, FinishedRun> finished;  // by index in `pending`, until written
+  std::mutex mutex;
+  std::condition_variable ready;
+  std::atomic<size_t> next{0};
+  std::atomic<bool> stop{false};
+  auto work = [&] {
+    for (size_t i = next++; i < pending.size() && !stop; i = next++) {
+      FinishedRun run = Execute(experiment, outPath, pending[i]);
+      const std::lock_guard lock(mutex);
+      finished.emplace(i, std::move(run));
+      ready.notify_all();
+    }
+  };
+  std::vector<std::jthread> threads;
+  for (int j = 0; j < std::min<int64_t>(jobs, static_cast<int64_t>(pending.size())); ++j) threads.emplace_back(work);
+  for (size_t i = 0; i < pending.size() && !stop; ++i) {
+    std::unique_lock lock(mutex);
+    ready.wait(lock, [&] { return finished.contains(i); });
+    const FinishedRun run = std::move(finished.extract(i).mapped());
+    lock.unlock();
+    if (!write(pending[i], run)) stop = true;
+  }
+  stop = true;
+}
+
+}  // namespace
+
+int RunSweep(const QStringList& arguments, std::ostream& out, std::ostream& err, bool errIsTerminal) {
+  const ParsedSweepArguments parsed =
+      ParseSweepArguments(arguments, static_cast<int>(std::thread::hardware_concurrency()));
+  if (parsed.Result == ParsedSweepArguments::Outcome::Help) {
+    out << parsed.Message.toStdString();
+    return ExitOk;
+  }
+  if (parsed.Result == ParsedSweepArguments::Outcome::Error) {
+    return Fail(err, parsed.Message.toStdString(), ExitBadArguments);
+  }
+  const SweepOptions& options = parsed.Options;
+
+  const std::string experimentName = "'" + options.ExperimentPath.toStdString() + "'";
+  QFile experimentFile(options.ExperimentPath);
+  if (!experimentFile.open(QIODevice::ReadOnly)) {
+    return Fail(err, "cannot read " + experimentName + ": " + experimentFile.errorString().toStdString(),
+                ExitBadArguments);
+  }
+  const QByteArray text = experimentFile.readAll();
+  const ExperimentParse experiment = ParseExperiment(std::string_view(text.data(), text.size()));
+  if (!experiment.Error.empty()) return Fail(err, experimentName + ": " + experiment.Error, ExitBadArguments);
+  const Experiment& e = experiment.Result;
+  if (auto problem = CheckExperiment(e)) return Fail(err, experimentName + ": " + *problem, ExitBadArguments);
+
+  ResultsFile results;
+  if (auto problem = results.Open(options.OutPath, ResultsHeader(e), options.Resume)) {
+    return Fail(err, *problem, ExitBadArguments);
+  }
+  std::vector<int64_t> pending;
+  int64_t inShard = 0;
+  for (int64_t run = options.ShardIndex - 1; run < e.RunCount(); run += options.ShardCount) {
+    ++inShard;
+    if (!results.DoneRuns().contains(run)) pending.push_back(run);
+  }
+
+  ProgressBar progress(err, static_cast<int64_t>(pending.size()), errIsTerminal);
+  progress.Update(0);
+  int status = ExitOk;
+  int64_t written = 0;
+  const auto start = std::chrono::steady_clock::now();
+  RunPool(e, options.OutPath, pending, options.Jobs, [&](int64_t run, const FinishedRun& finished) {
+    if (!finished.Error.empty()) {
+      progress.Clear();
+      status = Fail(err, finished.Error, finished.Status);
+      return false;
+    }
+    if (!results.Append(finished.Row)) {
+      progress.Clear();
+      status = Fail(err, "--out: writing '" + options.OutPath.toStdString() + "' failed", ExitWriteFailed);
+      return false;
+    }
+    if (!finished.Messages.empty()) {
+      progress.Clear();
+      err << "run " << run << ": " << finished.Messages << std::flush;
+    }
+    progress.Update(++written);
+    return true;
+  });
+  if (status != ExitOk) return status;
+  const std::chrono::duration<double> elapsed = std::chrono::steady_clock::now() - start;
+  out << ProgramName << ": " << written << " runs of " << inShard << " in this shard (" << inShard - written
+      << " already done), " << std::fixed << std::setprecision(1) << elapsed.count() << " s" << std::endl;
+  return ExitOk;
+}
+
+}  // namespace keldor::sweep

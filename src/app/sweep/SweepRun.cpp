@@ -1,0 +1,56 @@
+#include "app/sweep/SweepRun.h"
+
+#include <sstream>
+
+#include "app/headless/StreamMessageBox.h"
+#include "app/headless/TickCsv.h"
+#include "app/headless/TickLoop.h"
+#include "app/headless/WorldSetup.h"
+#include "model/Random.h"
+#include "model/World.h"
+#include "sim/TickPainter.h"
+#include "window/Commands.h"
+#include "window/WindowState.h"
+
+namespace keldor::sweep {
+
+RunOutcome RunOne(const headless::HeadlessOptions& options, int64_t every) {
+  RunOutcome outcome;
+  VirtualClock clock(options.Seed.value_or(0));
+  RandomSource random(clock);
+  World world;
+  WindowState window;
+  outcome.Error = headless::BuildWorld(world, window, random, options);
+  if (outcome.Error) return outcome;
+
+  std::ostringstream messages;
+  std::ostringstream series;
+  headless::StreamMessageBox messageBox(messages);
+  PopulationLimitNotice populationLimit(world, window, messageBox);
+  std::optional<headless::TickCsv> seriesCsv;
+  if (every > 0) seriesCsv.emplace(series);
+  NullPainter noDrawing;
+  const headless::TickLoop loop{world, window, random, populationLimit, &clock};
+  const auto painterFor = [&](int64_t) -> TickPainter& { return noDrawing; };
+  headless::RunTicks(loop, 1, options.Ticks, painterFor, [&](int64_t tick) {
+    if (seriesCsv && tick % every == 0) seriesCsv->WriteRow(tick, world);
+    return true;
+  });
+
+  std::ostringstream row;
+  headless::WriteTickCsvRow(row, options.Ticks, world);
+  outcome.LastRow = row.str();
+  outcome.Series = series.str();
+  outcome.Messages = messages.str();
+  return outcome;
+}
+
+std::optional<std::string> CheckWorld(const headless::HeadlessOptions& options) {
+  VirtualClock clock(options.Seed.value_or(0));
+  RandomSource random(clock);
+  World world;
+  WindowState window;
+  return headless::BuildWorld(world, window, random, options);
+}
+
+}  // namespace keldor::sweep

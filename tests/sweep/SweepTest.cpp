@@ -1,0 +1,142 @@
+#include "app/sweep/Sweep.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include "app/headless/HeadlessRun.h"
+#include "app/sweep/Experiment.h"
+
+namespace keldor::sweep {
+namespace {
+
+// 2 food rates x 2 nest sizes x 3 repetitions: 12 runs.
+constexpr const char* GridExperiment = R"({
+  "options": {"grid": 12, "nest": ["3,3"]},
+  "vary": {"food-rate": [2, 10], "ants-per-nest": {"first": 10, "step": 10, "last": 20}},
+  "repetitions": 3, "seed": 5, "ticks": 40, "every": 20
+})";
+
+QByteArray ReadAll(const QString& path) {
+  QFile file(path);
+  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void Write(const QString& path, const QByteArray& text) {
+  QFile file(path);
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write(text);
+}
+
+struct Sweep {
+  Sweep(const QString& experiment, QStringList arguments) {
+    status = RunSweep(QStringList{"keldor-sweep", experiment} + arguments, out, err, false);
+  }
+  int status;
+  std::ostringstream out;
+  std::ostringstream err;
+};
+
+class SweepTest : public testing::Test {
+ protected:
+  void SetUp() override { Write(experiment, GridExperiment); }
+  QString Path(const QString& name) const { return dir.filePath(name); }
+  QByteArray RunTable(const QString& name, const QStringList& arguments) {
+    const Sweep sweep(experiment, QStringList{"--out", Path(name)} + arguments);
+    EXPECT_EQ(sweep.status, 0) << sweep.err.str();
+    return ReadAll(Path(name));
+  }
+  QTemporaryDir dir;
+  QString experiment = dir.filePath("experiment.json");
+};
+
+TEST_F(SweepTest, TableIsTheSameForEveryJobCountAndShardsConcatenateToIt) {
+  const QByteArray table = RunTable("one.csv", {"--jobs", "1"});
+  const QList<QByteArray> lines = table.split('\n');
+  ASSERT_EQ(lines.size(), 14);  // header, 12 rows, and the empty text after the last line end
+  EXPECT_EQ(lines[0], "run,food-rate,ants-per-nest,seed,tick,Population,NestCount,FoodPileCount,FoodOnMap,"
+                      "FoodStored,Carrying,ScentedCells");
+  // Run 7 is repetition 7 % 3 = 1 of combination 7 / 3 = 2 (food rate 10, 10 ants): seed 5 + 1.
+  EXPECT_TRUE(lines[8].startsWith("7,10,10,6,40,")) << lines[8].toStdString();
+  EXPECT_EQ(RunTable("two.csv", {"--jobs", "2"}), table);
+
+  const QList<QByteArray> first = RunTable("s1.csv", {"--shard", "1/2"}).split('\n');
+  const QList<QByteArray> second = RunTable("s2.csv", {"--shard", "2/2", "--jobs", "2"}).split('\n');
+  ASSERT_EQ(first.size(), 8);
+  ASSERT_EQ(second.size(), 8);
+  for (int row = 0; row < 12; ++row) EXPECT_EQ((row % 2 == 0 ? first : second)[1 + row / 2], lines[1 + row]);
+
+  // Every 20 ticks of 40: the rows of ticks 20 and 40, the last one the table's.
+  const QList<QByteArray> series = ReadAll(Path("one-run-000007.csv")).split('\n');
+  ASSERT_EQ(series.size(), 4);
+  EXPECT_TRUE(series[1].startsWith("20,"));
+  EXPECT_TRUE(lines[8].endsWith("," + series[2]));
+}
+
+TEST_F(SweepTest, ARowIsTheLastCsvRowOfTheSameKeldorHeadlessRun) {
+  const QList<QByteArray> rows = RunTable("t.csv", {}).split('\n');
+  std::ostringstream out, err;
+  ASSERT_EQ(headless::RunHeadless({"keldor-headless", "--grid", "12", "--nest", "3,3", "--food-rate", "10",
+                                   "--ants-per-nest", "20", "--seed", "7", "--ticks", "40", "--csv", Path("h.csv")},
+                                  out, err),
+            0);
+  // Run 11: combination 3 (food rate 10, 20 ants), repetition 2, seed 7.
+  const QList<QByteArray> headlessRows = ReadAll(Path("h.csv")).split('\n');
+  EXPECT_EQ(rows[12], "11,10,20,7," + headlessRows[headlessRows.size() - 2]);
+}
+
+TEST_F(SweepTest, ResumeCompletesAnInterruptedTableWithoutRepeatingRuns) {
+  const QByteArray table = RunTable("full.csv", {});
+  // Interrupted after five rows and half of the sixth.
+  const qsizetype sixthRow = table.indexOf("\n5,") + 1;
+  Write(Path("cut.csv"), table.left(sixthRow + 10));
+  const Sweep refused(experiment, {"--out", Path("cut.csv")});
+  EXPECT_EQ(refused.status, 2);
+  const Sweep resumed(experiment, {"--out", Path("cut.csv"), "--resume", "--jobs", "2"});
+  ASSERT_EQ(resumed.status, 0) << resumed.err.str();
+  EXPECT_EQ(ReadAll(Path("cut.csv")), table);
+  EXPECT_NE(resumed.out.str().find("7 runs of 12 in this shard (5 already done)"), std::string::npos) << resumed.out.str();
+}
+
+TEST_F(SweepTest, BadExperimentsAreRefusedNamingTheKeyOrValue) {
+  const struct {
+    const char* experiment;
+    const char* message;
+  } cases[] = {
+      {R"({"ticks": 5, "repetition": 2})", "unknown key \"repetition\""},
+      {R"({"ticks": 5, "options": {"gird": 3}})", "options: unknown option \"gird\""},
+      {R"({"ticks": 5, "options": {"paused": 1}})", "options: \"paused\" takes true or false"},
+      {R"({"ticks": 5, "options": {"json": "a"}})", "options: \"json\" is not set here"},
+      {R"({"ticks": 5, "vary": {"food-rate": [2, 101]}})", "vary \"food-rate\": --food-rate: 101 is outside 0..100"},
+      {R"({"ticks": 5, "vary": {"grid": {"first": 9, "step": 1, "last": 8}}})", "does not reach 8"},
+      {R"({"ticks": 5, "vary": {"grid": [10, 20]}, "options": {"nest": "15,15"}})",
+       "run 0 (grid 10): --nest 15,15: the cell lies outside"},
+      {R"({"ticks": 5, "seed": 1.5})", "\"seed\": 1.5 is not a whole number"},
+      {R"({"ticks": 5, "ticks": 6})", "line 1, column 14: \"ticks\" appears twice"},
+      {R"({"seed": 1})", "\"ticks\" is missing"},
+  };
+  for (const auto& c : cases) {
+    Write(experiment, c.experiment);
+    const Sweep sweep(experiment, {"--out", Path("bad.csv")});
+    EXPECT_EQ(sweep.status, 2) << c.experiment;
+    EXPECT_NE(sweep.err.str().find(c.message), std::string::npos) << c.experiment << "\n" << sweep.err.str();
+    EXPECT_FALSE(QFile::exists(Path("bad.csv"))) << c.experiment;
+  }
+}
+
+TEST(ExperimentTest, RangesKeepTheirDecimalsAndVaryTheLastKeyFastest) {
+  const ExperimentParse p = ParseExperiment(
+      R"({"ticks": 1, "vary": {"ant-size": {"first": 0.1, "step": 0.1, "last": 0.35}, "odor": [true, false]}})");
+  ASSERT_EQ(p.Error, "");
+  // 0.1, 0.2, 0.3 (0.35 is not reached) x 2 flags; 0.1 + 2 * 0.1 printed with one decimal.
+  EXPECT_EQ(p.Result.RunCount(), 6);
+  EXPECT_EQ(p.Result.Run(5).VariedValues, (std::vector<std::string>{"0.3", "false"}));
+  EXPECT_EQ(p.Result.Run(4).Arguments,
+            (QStringList{"keldor-sweep", "--ant-size=0.3", "--odor", "--seed=0", "--ticks=1"}));
+}
+
+}  // namespace
+}  // namespace keldor::sweep
