@@ -8,11 +8,13 @@
 #include "model/Numeric.h"
 #include "window/OptionsForm.h"
 #include "model/World.h"
+#include "window/WindowState.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   keldor::World world;
-  keldor::StartUp(world);
-  keldor::OptionsForm form(world);
+  keldor::WindowState window;
+  keldor::StartUp(world, window);
+  keldor::OptionsForm form(world, window);
   for (size_t i = 0; i + 1 < size;) {
     const uint8_t control = data[i] % 10;
     const size_t length = std::min<size_t>(data[i + 1] % 16, size - i - 2);
@@ -34,6 +36,11 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     if (!(ants >= 0 && ants <= keldor::Int16Max)) __builtin_trap();
   }
   form.ApplyOptions();
-  keldor::OptionsNewWorldInputs(world);
+  // OK leaves every colour component a byte.
+  const auto& s = world.Settings;
+  for (const int16_t component : {s.AntRed, s.AntGreen, s.AntBlue}) {
+    if (component < 0 || component > 255) __builtin_trap();
+  }
+  keldor::OptionsNewWorldInputs(world, window);
   return 0;
 }
