@@ -17,18 +17,20 @@ class Clock {
   virtual double SecondsSinceMidnight() = 0;
 };
 
-// A reproducible clock. It starts at a time of day derived from the seed and
-// advances by one microsecond on every read (so reseeds inside one tick still
-// differ, as they do on a real clock); the batch runner advances it by the
-// tick period between ticks.
+// A reproducible clock. It starts at a time of day derived from the seed (or
+// a given one) and advances by one microsecond on every read (so reseeds
+// inside one tick still differ, as they do on a real clock); the batch runner
+// and the window's stepped runs advance it by the tick period between ticks.
 class VirtualClock : public Clock {
  public:
   explicit VirtualClock(uint64_t seed);
+  static VirtualClock StartingAt(double secondsSinceMidnight);
   double SecondsSinceMidnight() override;
   void Advance(double seconds);
 
  private:
-  double now_;
+  VirtualClock() = default;
+  double now_ = 0;
 };
 
 // Takes the place of the generator: hands out chosen draws and hears of every
