@@ -1,12 +1,15 @@
 #include "ui/frmKeldor.h"
 
+#include <QActionGroup>
 #include <QCloseEvent>
 #include <QFrame>
+#include <QInputDialog>
 #include <QLabel>
 #include <QLayout>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QStatusBar>
 #include <algorithm>
 #include <cmath>
 
@@ -15,13 +18,17 @@
 #include "model/Viewport.h"
 #include "platform/QtProgramStarter.h"
 #include "platform/SystemRegistry.h"
+#include "render/PickMarker.h"
 #include "sim/TerrainTools.h"
 #include "sim/Tick.h"
 #include "ui/AppTexts.h"
 #include "ui/ButtonPictures.h"
+#include "ui/ChartsWindow.h"
+#include "ui/InspectorWindow.h"
 #include "ui/PictureBox.h"
 #include "ui/frmAbout.h"
 #include "ui/frmOptions.h"
+#include "window/StatusText.h"
 
 namespace keldor {
 
@@ -48,7 +55,8 @@ void SetToolTip(QWidget* widget, const std::string& text) {
 frmKeldor::frmKeldor(MessageBox& messages, Clock& clock, QWidget* parent)
     : QMainWindow(parent),
       messages_(messages),
-      random_(clock),
+      runClock_(clock),
+      random_(runClock_),
       scale_(TwipScale::ForWidget(*this)),
       registry_(MakeSystemRegistry()),
       starter_(std::make_unique<QtProgramStarter>()),
@@ -66,9 +74,11 @@ frmKeldor::frmKeldor(MessageBox& messages, Clock& clock, QWidget* parent)
 
   Form_Load(world_);
   timer1_.setInterval(Timer1IntervalMs);
-  connect(&timer1_, &QTimer::timeout, this, &frmKeldor::Timer1_Timer);
+  connect(&timer1_, &QTimer::timeout, this, &frmKeldor::TimerFired);
+  steady_.start();
   resize(scale_.Pixels(InitialWidth - ClassicFrameWidth),
-         scale_.Pixels(InitialHeight - ClassicFrameHeight) + menuBar()->sizeHint().height());
+         scale_.Pixels(InitialHeight - ClassicFrameHeight) + menuBar()->sizeHint().height() +
+             statusBar()->sizeHint().height());
   layout()->activate();  // sizes the client area before the first show
   DoResize();
 }
@@ -97,6 +107,7 @@ void frmKeldor::BuildMenus() {
   QMenu* help = menuBar()->addMenu("&Help");
   QAction* mnuHelpAbout = help->addAction("&About...", this, [this] { mnuHelpAbout_Click(); });
   mnuHelpAbout->setObjectName("mnuHelpAbout");
+  BuildRunMenus(file, tools);
 }
 
 QPushButton* frmKeldor::AddBarButton(QWidget* bar, const char* name, double left, const char* toolTip) {
@@ -212,7 +223,7 @@ void frmKeldor::Run(Command command) {
   ShowControls();
 }
 
-void frmKeldor::mnuFileNew_Click() { NewFromOptions(world_, random_); }
+void frmKeldor::mnuFileNew_Click() { NewWorld(std::nullopt); }
 
 void frmKeldor::mnuOptions_Click() {
   frmOptions dialog(world_, this);
@@ -230,6 +241,7 @@ void frmKeldor::TerrainMouse(int kind, int buttons, QPointF pixel) {
   if (!world_.HasWorld()) return;
   const float x = static_cast<float>(world_.View.Terrain.Left + scale_.Twips(pixel.x()));
   const float y = static_cast<float>(world_.View.Terrain.Top + scale_.Twips(pixel.y()));
+  if (kind == Press && world_.Settings.CurrentTool == 0 && buttons == 1) PickAt(pixel);
   if (kind == Press) {
     // The press acts on the cell under the pointer, even without a move before it.
     picTerreno_MouseMove(world_, 0, x, y);
@@ -261,14 +273,8 @@ void frmKeldor::Timer1_Timer() {
   // The population-limit message is modal: Timer1 keeps firing inside it,
   // and those ticks are skipped.
   if (inTick_) return;
-  inTick_ = true;
-  TickContext context{world_, random_, canvases_.Painter(), messages_};
-  keldor::Timer1_Timer(context);
-  inTick_ = false;
-  ++ticksRun_;
-  ShowFrame();
-  ResizeCanvases();
-  ShowControls();
+  RunTick(canvases_.Painter());
+  ShowTick();
 }
 
 void frmKeldor::ShowFrame() {
@@ -389,6 +395,10 @@ void frmKeldor::ShowControls() {
     widgets[i]->setValue(bars[i]->Value);
   }
 
+  // Fastest shows a paused world at the frame rate; it has nothing to run.
+  const int interval = speed_ == RunSpeed::Fastest && !world_.Running ? static_cast<int>(1000 * FastestPacer::FrameSeconds)
+                                                                      : TimerIntervalMs(speed_);
+  if (timer1_.interval() != interval) timer1_.setInterval(interval);
   if (world_.TimerEnabled && !timer1_.isActive()) timer1_.start();
   if (!world_.TimerEnabled && timer1_.isActive()) timer1_.stop();
   showing_ = false;

@@ -2,24 +2,37 @@
 // palette, the terrain view with its scroll bars and the information panel
 // with the mini-map and the population. Every handler calls the toolkit-free
 // command and then shows what the world's ControlState says; Timer1 runs the
-// tick every 75 ms and shows the frame it drew.
+// tick every 75 ms and shows the frame it drew. The Run menu changes the
+// speed and steps a paused world; the status line, the charts and the
+// inspector follow the run.
 #pragma once
 
+#include <QElapsedTimer>
 #include <QMainWindow>
 #include <QPointer>
 #include <QTimer>
 #include <array>
+#include <cstdint>
 #include <memory>
+#include <optional>
 
 #include "model/Random.h"
 #include "model/WindowLayout.h"
 #include "model/World.h"
 #include "platform/ViewCanvases.h"
+#include "sim/TickPainter.h"
 #include "ui/TwipScale.h"
+#include "window/FastestPacer.h"
+#include "window/Inspection.h"
+#include "window/RunChart.h"
+#include "window/RunClock.h"
+#include "window/RunSpeed.h"
+#include "window/TickRate.h"
 
 class QAction;
 class QFrame;
 class QLabel;
+class QMenu;
 class QPushButton;
 class QScrollBar;
 
@@ -30,8 +43,10 @@ class PictureBox;
 class Registry;
 class ProgramStarter;
 class frmOptions;
+class ChartsWindow;
+class InspectorWindow;
 
-inline constexpr int Timer1IntervalMs = 75;
+inline constexpr int Timer1IntervalMs = TickPeriodMs;
 
 class frmKeldor : public QMainWindow {
   Q_OBJECT
@@ -49,6 +64,19 @@ class frmKeldor : public QMainWindow {
   int TicksRun() const { return ticksRun_; }
   // Runs one tick now, as Timer1 does.
   void Timer1_Timer();
+
+  // Run control, status line, charts and inspector.
+  RunSpeed Speed() const { return speed_; }
+  void SetSpeed(RunSpeed speed);
+  int TimerInterval() const { return timer1_.interval(); }
+  // Ticks the world has run since New.
+  int64_t WorldTicks() const { return worldTicks_; }
+  // New, with the random source's clock started from the seed as keldor-headless --seed starts it.
+  void NewWithSeed(uint64_t seed);
+  // One tick of a paused world.
+  void Step();
+  ChartsWindow* Charts();
+  InspectorWindow* Inspector();
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
@@ -72,6 +100,20 @@ class frmKeldor : public QMainWindow {
   void MapMouse(bool release, int buttons, QPointF pixel);
   void ScrollBarMoved();
 
+  void BuildRunMenus(QMenu* file, QMenu* tools);
+  void NewWorld(std::optional<uint64_t> seed);
+  void AskSeed();
+  void TimerFired();
+  // Runs one tick drawing on `painter`, with the run clock, tick count and charts.
+  void RunTick(TickPainter& painter);
+  // Shows the tick the canvases hold: frame, controls, status, charts, inspector.
+  void ShowTick();
+  // Fastest: ticks back to back for one slice, one drawn about every 1/30 s.
+  void RunFastestSlice();
+  void ShowRun();
+  void PickAt(QPointF pixel);
+  double Seconds() const;
+
   // Lays the window out for its current size (snapping back to the minimum).
   void DoResize();
   void ApplyLayout();
@@ -81,6 +123,7 @@ class frmKeldor : public QMainWindow {
   void ShowFrame();
 
   MessageBox& messages_;
+  RunClock runClock_;
   RandomSource random_;
   World world_;
   WindowLayout layout_;
@@ -93,6 +136,20 @@ class frmKeldor : public QMainWindow {
   bool showing_ = false;
   int ticksRun_ = 0;
   QPointer<frmOptions> options_;
+
+  RunSpeed speed_ = RunSpeed::Normal;
+  int64_t worldTicks_ = 0;
+  NullPainter noDrawing_;
+  QElapsedTimer steady_;
+  FastestPacer pacer_;
+  TickRate rate_;
+  RunChart chart_;
+  double chartsShownAt_ = -1;
+  Pick pick_;
+  QPointer<ChartsWindow> charts_;
+  QPointer<InspectorWindow> inspector_;
+  std::array<QAction*, std::size(AllRunSpeeds)> mnuSpeed_{};
+  QLabel* lblStatus_ = nullptr;
 
   QAction* mnuButtons_ = nullptr;
   QAction* mnuInfo_ = nullptr;
