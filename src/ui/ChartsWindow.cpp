@@ -39,9 +39,16 @@ ChartsWindow::ChartsWindow(const RunChart& chart, QWidget* parent) : QWidget(par
   layout->addWidget(plots_, 1);
   population_ = AddPlot(plots_, "Population");
   food_ = AddPlot(plots_, "Food");
+  // The food on the map outweighs the rest by far: it has the right-hand scale.
+  food_.RightY = new QValueAxis();
+  food_.RightY->setLabelFormat("%.3g");
+  food_.Chart->addAxis(food_.RightY, Qt::AlignRight);
   for (size_t i = 0; i < 3; ++i) {
-    AddLine(food_, QString::fromUtf8(RunChart::TotalName(RunChart::AllTotals[i]).data()))->setColor(FoodColours[i]);
+    const QString name = QString::fromUtf8(RunChart::TotalName(RunChart::AllTotals[i]).data());
+    AddLine(food_, name, i == 2 ? food_.RightY : nullptr)->setColor(FoodColours[i]);
   }
+  food_.RightY->setLinePenColor(FoodColours[2]);
+  food_.RightY->setLabelsColor(FoodColours[2]);
   scent_ = AddPlot(plots_, "Scented cells");
   AddLine(scent_, "Scented cells")->setColor(Qt::darkGray);
   scent_.Chart->legend()->hide();
@@ -69,7 +76,7 @@ ChartsWindow::Plot ChartsWindow::AddPlot(QWidget* area, const QString& title) {
   plot.X = new QValueAxis();
   plot.X->setLabelFormat("%d");
   plot.Y = new QValueAxis();
-  plot.Y->setLabelFormat("%.4g");
+  plot.Y->setLabelFormat("%.3g");
   plot.Chart->addAxis(plot.X, Qt::AlignBottom);
   plot.Chart->addAxis(plot.Y, Qt::AlignLeft);
   auto* view = new QChartView(plot.Chart, area);
@@ -78,12 +85,12 @@ ChartsWindow::Plot ChartsWindow::AddPlot(QWidget* area, const QString& title) {
   return plot;
 }
 
-QLineSeries* ChartsWindow::AddLine(Plot& plot, const QString& name) {
+QLineSeries* ChartsWindow::AddLine(Plot& plot, const QString& name, QValueAxis* y) {
   auto* line = new QLineSeries();
   line->setName(name);
   plot.Chart->addSeries(line);
   line->attachAxis(plot.X);
-  line->attachAxis(plot.Y);
+  line->attachAxis(y != nullptr ? y : plot.Y);
   plot.Lines.push_back(line);
   return line;
 }
@@ -115,7 +122,10 @@ void ChartsWindow::Refresh() {
   double populationMax = 1;
   for (size_t i = 0; i < colonies.size(); ++i) Show(population_.Lines[i], colonies[i].Population, xMax, populationMax);
   double foodMax = 1;
-  for (size_t i = 0; i < 3; ++i) Show(food_.Lines[i], chart_.TotalSeries(RunChart::AllTotals[i]), xMax, foodMax);
+  for (size_t i = 0; i < 2; ++i) Show(food_.Lines[i], chart_.TotalSeries(RunChart::AllTotals[i]), xMax, foodMax);
+  double mapFoodMax = 1;
+  Show(food_.Lines[2], chart_.TotalSeries(RunChart::Total::FoodOnMap), xMax, mapFoodMax);
+  food_.RightY->setRange(0, mapFoodMax * 1.05);
   double scentMax = 1;
   Show(scent_.Lines[0], chart_.TotalSeries(RunChart::Total::ScentedCells), xMax, scentMax);
   const std::pair<Plot*, double> ranges[] = {{&population_, populationMax}, {&food_, foodMax}, {&scent_, scentMax}};

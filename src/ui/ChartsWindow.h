@@ -36,10 +36,11 @@ class ChartsWindow : public QWidget {
     QChart* Chart = nullptr;
     QValueAxis* X = nullptr;
     QValueAxis* Y = nullptr;
+    QValueAxis* RightY = nullptr;  // for a line on another scale
     std::vector<QLineSeries*> Lines;
   };
   Plot AddPlot(QWidget* area, const QString& title);
-  QLineSeries* AddLine(Plot& plot, const QString& name);
+  QLineSeries* AddLine(Plot& plot, const QString& name, QValueAxis* y = nullptr);
   // Replaces the line's points by the series' and widens the plot's ranges to hold them.
   void Show(QLineSeries* line, const ChartSeries& series, double& xMax, double& yMax);
   void AskCsv();

@@ -19,7 +19,7 @@ struct ChartPoint {
 
 class ChartSeries {
  public:
-  static constexpr size_t DefaultMaxBuckets = 2048;
+  static constexpr size_t DefaultMaxBuckets = 1024;
 
   // maxBuckets: even, at least 2.
   explicit ChartSeries(size_t maxBuckets = DefaultMaxBuckets);
