@@ -70,8 +70,8 @@ class SilentMessageBox : public MessageBox {
   void Show(const std::string&) override {}
 };
 
-// Five seconds of Fastest on the default world in the main window, charts
-// open or not; counts the ticks and the frames the terrain view received.
+// 100,000 ticks of Fastest on the default world in the main window, charts
+// open or not: ticks and frames shown per second of wall time.
 void BM_FastestWindow(benchmark::State& state) {
   for (auto _ : state) {
     VirtualClock clock(11);
@@ -94,7 +94,11 @@ void BM_FastestWindow(benchmark::State& state) {
     poll.start(2);
     QElapsedTimer elapsed;
     elapsed.start();
-    while (elapsed.elapsed() < 5000) QApplication::processEvents(QEventLoop::AllEvents, 50);
+    while (window.WorldTicks() < 100'000) {
+      QApplication::processEvents(QEventLoop::AllEvents, 50);
+      // Past the population-limit pause, as the simulation benchmarks run.
+      if (!window.TheWorld().Running) window.findChild<QAction*>("mnuPlayPause")->trigger();
+    }
     const double seconds = elapsed.elapsed() / 1000.0;
     state.counters["ticks_per_s"] = static_cast<double>(window.WorldTicks()) / seconds;
     state.counters["frames_per_s"] = frames / seconds;
