@@ -1,9 +1,7 @@
 #include "ui/frmKeldor.h"
 
-#include <QActionGroup>
 #include <QCloseEvent>
 #include <QFrame>
-#include <QInputDialog>
 #include <QLabel>
 #include <QLayout>
 #include <QMenuBar>
@@ -18,17 +16,13 @@
 #include "model/Viewport.h"
 #include "platform/QtProgramStarter.h"
 #include "platform/SystemRegistry.h"
-#include "render/PickMarker.h"
 #include "sim/TerrainTools.h"
 #include "sim/Tick.h"
 #include "ui/AppTexts.h"
 #include "ui/ButtonPictures.h"
-#include "ui/ChartsWindow.h"
-#include "ui/InspectorWindow.h"
 #include "ui/PictureBox.h"
 #include "ui/frmAbout.h"
 #include "ui/frmOptions.h"
-#include "window/StatusText.h"
 
 namespace keldor {
 
