@@ -28,7 +28,7 @@ void BenchWorld::AddNest(int x, int y) {
 void BenchWorld::Tick(int count) {
   for (int i = 0; i < count; ++i) {
     clock.Advance(0.075);
-    RunTick(context, TickInputOf(window, world));
+    RunTick(context, painter, TickInputOf(window, world));
   }
 }
 

@@ -20,7 +20,7 @@ struct BenchWorld {
   WindowState window;
   NullPainter painter;
   IgnoredTickEvents events;
-  TickContext context{world, random, painter, events};
+  TickContext context{world, random, events};
 
   // A new running world; a negative foodRate or antsPerNest keeps the
   // start-up default.

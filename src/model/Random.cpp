@@ -23,6 +23,12 @@ VirtualClock::VirtualClock(uint64_t seed) {
   now_ = static_cast<double>(h % 86400000000ULL) / 1e6;
 }
 
+VirtualClock VirtualClock::StartingAt(double secondsSinceMidnight) {
+  VirtualClock clock;
+  clock.Advance(secondsSinceMidnight);
+  return clock;
+}
+
 double VirtualClock::SecondsSinceMidnight() {
   const double t = now_;
   Advance(1e-6);

@@ -20,13 +20,14 @@ class Clock {
   virtual double SecondsSinceMidnight() = 0;
 };
 
-// A reproducible clock. It starts at a time of day derived from the seed and
-// advances by one microsecond on every read (so reseeds inside one tick still
-// differ, as they do on a real clock); the batch runner advances it by the
-// tick period between ticks.
+// A reproducible clock. It starts at a time of day derived from the seed (or
+// a given one) and advances by one microsecond on every read (so reseeds
+// inside one tick still differ, as they do on a real clock); the batch runner
+// and the window's stepped runs advance it by the tick period between ticks.
 class VirtualClock : public Clock {
  public:
   explicit VirtualClock(uint64_t seed);
+  static VirtualClock StartingAt(double secondsSinceMidnight);
   double SecondsSinceMidnight() override;
   void Advance(double seconds);
   // The time of day the next read returns; setting it resumes a saved clock.
@@ -34,7 +35,8 @@ class VirtualClock : public Clock {
   void SetNow(double secondsSinceMidnight) { now_ = secondsSinceMidnight; }
 
  private:
-  double now_;
+  VirtualClock() = default;
+  double now_ = 0;
 };
 
 // Takes the place of the generator: hands out chosen draws and hears of every

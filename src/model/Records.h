@@ -62,6 +62,7 @@ struct Ant {
   double HeadY = 0;
   int16_t CellX = 0;
   int16_t CellY = 0;
+  uint32_t Serial = 0;  // given at birth and never reused: the ant's identity across renumbering
   double Angle = 0;  // turn to apply at the start of the next step, radians
   double Length = 0;
   double Load = 0;
@@ -73,6 +74,7 @@ struct Ant {
 
 struct Nest {
   std::string Name;
+  uint32_t Serial = 0;  // given at creation and never reused
   keldor::Signature Signature;
   double X = 0;  // centre, world units
   double Y = 0;

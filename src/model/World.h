@@ -32,6 +32,10 @@ struct World {
   SlotList<FoodPile> FoodPiles;
   SlotList<WallObject> Walls;
 
+  // Identities of ants and nests (they are renumbered as others are removed).
+  uint32_t LastSerial = 0;
+  uint32_t NextSerial() { return ++LastSerial; }
+
   int16_t FoodPileCount() const { return FoodPiles.Count(); }
   int16_t WallCount() const { return Walls.Count(); }
   bool HasWorld() const { return Cells.Exists(); }

@@ -129,6 +129,7 @@ bool CreateNest(World& world, RandomSource& random, int16_t cellX, int16_t cellY
   Nest& n = world.Nests.back();
   n = Nest{};
   n.Name = "NEST_" + std::to_string(world.NestCount - 1);
+  n.Serial = world.NextSerial();
   n.CellX = cellX;
   n.CellY = cellY;
   n.X = CellCentre(n.CellX, s.CellSize);
@@ -142,7 +143,10 @@ bool CreateNest(World& world, RandomSource& random, int16_t cellX, int16_t cellY
   n.Signature = keldor::Signature(MakeSignature(random, Signature::Capacity));
   n.LifeSpan = s.LifeSpan;
   n.Ants.Reset(antCount);
-  for (int i = 0; i < antCount; ++i) PlaceAnt(n, n.Ants[i], i, s, random);
+  for (int i = 0; i < antCount; ++i) {
+    PlaceAnt(n, n.Ants[i], i, s, random);
+    n.Ants[i].Serial = world.NextSerial();
+  }
   s.Population = static_cast<int16_t>(s.Population + antCount);
   Cell& c = world.Cells(n.CellX, n.CellY);
   c.AntCount = static_cast<int16_t>(c.AntCount + antCount);

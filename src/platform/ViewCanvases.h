@@ -23,6 +23,8 @@ class ViewCanvases {
   ViewCanvases& operator=(const ViewCanvases&) = delete;
 
   const QtCanvas& Terrain() const { return terrain_; }
+  // For drawing over a finished frame.
+  QtCanvas& TerrainCanvas() { return terrain_; }
   const QtCanvas& Map() const { return map_; }
   ViewPainter& Painter() { return painter_; }
 

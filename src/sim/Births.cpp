@@ -28,6 +28,7 @@ void BearAnt(World& world, RandomSource& random, Nest& nest, Ant& ant) {
   ant.CellY = CellOfCoordinate(ant.HeadY, s.CellSize);
   ant.Load = 0;
   ant.Colour = nest.Colour;
+  ant.Serial = world.NextSerial();
 }
 
 }  // namespace

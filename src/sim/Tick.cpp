@@ -53,12 +53,11 @@ class TickGuard {
 
 }  // namespace
 
-bool RunTick(TickContext& context, const TickInput& input) {
+bool RunTick(TickContext& context, TickPainter& painter, const TickInput& input) {
   World& world = context.world;
   if (context.InProgress) return false;
   TickGuard guard(context.InProgress);
   RandomSource& random = context.random;
-  TickPainter& painter = context.painter;
 
   random.ReseedFromClock();
   painter.ClearViews(world);

@@ -22,10 +22,11 @@ struct World;
 class RandomSource;
 class TickPainter;
 
+// What stays the same from tick to tick: the world, its random source, who
+// hears the tick's events, and whether a tick is running.
 struct TickContext {
   World& world;
   RandomSource& random;
-  TickPainter& painter;
   TickEvents& events;
   // Pair ants with piles and rivals through a cell index (same results as the
   // full scans, which remain for comparison).
@@ -34,9 +35,10 @@ struct TickContext {
   bool InProgress = false;
 };
 
-// Runs one tick with what the window hands it. A call made while another tick
-// is still running (from inside the modal population-limit message) returns
-// false at once.
-bool RunTick(TickContext& context, const TickInput& input);
+// Runs one tick with what the window hands it, drawing on `painter` (the
+// NullPainter for a tick nobody sees: drawing never changes the world). A call
+// made while another tick is still running (from inside the modal
+// population-limit message) returns false at once.
+bool RunTick(TickContext& context, TickPainter& painter, const TickInput& input);
 
 }  // namespace keldor

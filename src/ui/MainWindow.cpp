@@ -8,6 +8,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QStatusBar>
 #include <algorithm>
 #include <climits>
 #include <cmath>
@@ -56,13 +57,14 @@ void SetToolTip(QWidget* widget, const std::string& text) {
 MainWindow::MainWindow(MessageBox& messages, Clock& clock, QWidget* parent)
     : QMainWindow(parent),
       messages_(messages),
-      random_(clock),
+      runClock_(clock),
+      random_(runClock_),
       scale_(TwipScale::ForWidget(*this)),
       registry_(MakeSystemRegistry()),
       starter_(std::make_unique<QtProgramStarter>()),
       canvases_(QSize(1, 1), QSize(scale_.Pixels(MapBox.Width), scale_.Pixels(MapBox.Height)), window_.View,
                 devicePixelRatioF()),
-      tick_{world_, random_, canvases_.Painter(), populationLimit_} {
+      tick_{world_, random_, populationLimit_} {
   setObjectName("frmKeldor");
   chooseWorldFile_ = AskForWorldFile;
   setWindowTitle(ApplicationTitle);
@@ -77,9 +79,11 @@ MainWindow::MainWindow(MessageBox& messages, Clock& clock, QWidget* parent)
 
   StartUp(world_, window_);
   timer_.setInterval(TickIntervalMs);
-  connect(&timer_, &QTimer::timeout, this, &MainWindow::AdvanceTick);
+  connect(&timer_, &QTimer::timeout, this, &MainWindow::TimerFired);
+  steady_.start();
   resize(scale_.Pixels(InitialWidth - ClassicFrameWidth),
-         scale_.Pixels(InitialHeight - ClassicFrameHeight) + menuBar()->sizeHint().height());
+         scale_.Pixels(InitialHeight - ClassicFrameHeight) + menuBar()->sizeHint().height() +
+             statusBar()->sizeHint().height());
   layout()->activate();  // sizes the client area before the first show
   DoResize();
 }
@@ -113,6 +117,7 @@ void MainWindow::BuildMenus() {
   QMenu* help = menuBar()->addMenu("&Help");
   QAction* mnuHelpAbout = help->addAction("&About...", this, [this] { OnAbout(); });
   mnuHelpAbout->setObjectName("mnuHelpAbout");
+  BuildRunMenus(file, tools);
 }
 
 QPushButton* MainWindow::AddBarButton(QWidget* bar, const char* name, double left, const char* toolTip) {
@@ -228,7 +233,7 @@ void MainWindow::Run(Command command) {
   ShowControls();
 }
 
-void MainWindow::OnFileNew() { NewFromOptions(world_, window_, random_); }
+void MainWindow::OnFileNew() { StartNewWorld(std::nullopt); }
 
 namespace {
 
@@ -284,6 +289,7 @@ void MainWindow::TerrainMouse(int kind, int buttons, QPointF pixel) {
   if (!world_.HasWorld()) return;
   const float x = static_cast<float>(window_.View.Terrain.Left + scale_.Twips(pixel.x()));
   const float y = static_cast<float>(window_.View.Terrain.Top + scale_.Twips(pixel.y()));
+  if (kind == Press && window_.View.CurrentTool == NoTool && buttons == 1) PickAt(pixel);
   if (kind == Press) {
     // The press acts on the cell under the pointer, even without a move before it.
     TerrainPointerMoved(world_, window_, 0, x, y);
@@ -314,12 +320,7 @@ void MainWindow::ScrollBarMoved() {
 void MainWindow::AdvanceTick() {
   // The population-limit message is modal: the tick timer keeps firing inside
   // it, and those ticks are skipped.
-  if (!keldor::RunTick(tick_, TickInputOf(window_, world_))) return;
-  ShowPopulation(world_, window_);
-  ++ticksRun_;
-  ShowFrame();
-  ResizeCanvases();
-  ShowControls();
+  if (RunOneTick(canvases_.Painter())) ShowTick();
 }
 
 void MainWindow::ShowFrame() {
@@ -441,6 +442,10 @@ void MainWindow::ShowControls() {
     widgets[i]->setValue(bars[i]->Value);
   }
 
+  // Fastest shows a paused world at the frame rate; it has nothing to run.
+  const int interval = speed_ == RunSpeed::Fastest && !world_.Running ? static_cast<int>(1000 * FastestPacer::FrameSeconds)
+                                                                      : TimerIntervalMs(speed_);
+  if (timer_.interval() != interval) timer_.setInterval(interval);
   if (window_.TimerEnabled && !timer_.isActive()) timer_.start();
   if (!window_.TimerEnabled && timer_.isActive()) timer_.stop();
   showing_ = false;

@@ -1,17 +1,22 @@
 // The main window "Keldor": menus, the button bar with the drop-down tool
 // palette, the terrain view with its scroll bars and the information panel
 // with the mini-map and the population. Every handler calls the toolkit-free
-// command and then shows what the world's ControlState says; the tick timer runs the
-// tick every 75 ms and shows the frame it drew.
+// command and then shows what the window state says; the tick timer runs the
+// tick every 75 ms and shows the frame it drew. The Run menu changes the
+// speed and steps a paused world; the status line, the charts and the
+// inspector follow the run.
 #pragma once
 
+#include <QElapsedTimer>
 #include <QFileDialog>
 #include <QMainWindow>
 #include <QPointer>
 #include <QTimer>
 #include <array>
+#include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include "model/Random.h"
 #include "window/WindowLayout.h"
@@ -20,11 +25,19 @@
 #include "window/Commands.h"
 #include "window/WindowState.h"
 #include "platform/ViewCanvases.h"
+#include "sim/TickPainter.h"
 #include "ui/TwipScale.h"
+#include "window/FastestPacer.h"
+#include "window/Inspection.h"
+#include "window/RunChart.h"
+#include "window/RunClock.h"
+#include "window/RunSpeed.h"
+#include "window/TickRate.h"
 
 class QAction;
 class QFrame;
 class QLabel;
+class QMenu;
 class QPushButton;
 class QScrollBar;
 
@@ -35,8 +48,10 @@ class PictureBox;
 class Registry;
 class ProgramStarter;
 class OptionsDialog;
+class ChartsWindow;
+class InspectorWindow;
 
-inline constexpr int TickIntervalMs = 75;
+inline constexpr int TickIntervalMs = TickPeriodMs;
 
 class MainWindow : public QMainWindow {
   Q_OBJECT
@@ -59,6 +74,19 @@ class MainWindow : public QMainWindow {
   // Qt's file dialog unless replaced.
   using WorldFileChooser = std::function<QString(QWidget* parent, const char* caption, QFileDialog::AcceptMode mode)>;
   void SetWorldFileChooser(WorldFileChooser choose) { chooseWorldFile_ = std::move(choose); }
+
+  // Run control, status line, charts and inspector.
+  RunSpeed Speed() const { return speed_; }
+  void SetSpeed(RunSpeed speed);
+  int TimerInterval() const { return timer_.interval(); }
+  // Ticks the world has run since New.
+  int64_t WorldTicks() const { return worldTicks_; }
+  // New, with the random source's clock started from the seed as keldor-headless --seed starts it.
+  void NewWithSeed(uint64_t seed);
+  // One tick of a paused world.
+  void Step();
+  ChartsWindow* Charts();
+  InspectorWindow* Inspector();
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
@@ -84,6 +112,21 @@ class MainWindow : public QMainWindow {
   void MapMouse(bool release, int buttons, QPointF pixel);
   void ScrollBarMoved();
 
+  void BuildRunMenus(QMenu* file, QMenu* tools);
+  void StartNewWorld(std::optional<uint64_t> seed);
+  void AskSeed();
+  void TimerFired();
+  // Runs one tick drawing on `painter`, with the run clock, tick count and
+  // charts; false when a tick is already running (inside its modal message).
+  bool RunOneTick(TickPainter& painter);
+  // Shows the tick the canvases hold: frame, controls, status, charts, inspector.
+  void ShowTick();
+  // Fastest: ticks back to back for one slice, one drawn about every 1/30 s.
+  void RunFastestSlice();
+  void ShowRun();
+  void PickAt(QPointF pixel);
+  double Seconds() const;
+
   // Lays the window out for its current size (snapping back to the minimum).
   void DoResize();
   void ApplyLayout();
@@ -93,6 +136,7 @@ class MainWindow : public QMainWindow {
   void ShowFrame();
 
   MessageBox& messages_;
+  RunClock runClock_;
   RandomSource random_;
   World world_;
   WindowState window_;
@@ -110,6 +154,20 @@ class MainWindow : public QMainWindow {
   WorldFileChooser chooseWorldFile_;
 
   QAction* mnuFileSaveAs_ = nullptr;
+  RunSpeed speed_ = RunSpeed::Normal;
+  int64_t worldTicks_ = 0;
+  NullPainter noDrawing_;
+  QElapsedTimer steady_;
+  FastestPacer pacer_;
+  TickRate rate_;
+  RunChart chart_;
+  double chartsShownAt_ = -1;
+  Pick pick_;
+  QPointer<ChartsWindow> charts_;
+  QPointer<InspectorWindow> inspector_;
+  std::array<QAction*, std::size(AllRunSpeeds)> mnuSpeed_{};
+  QLabel* lblStatus_ = nullptr;
+
   QAction* mnuButtons_ = nullptr;
   QAction* mnuInfo_ = nullptr;
   QFrame* fraButtonBar_ = nullptr;

@@ -286,8 +286,7 @@ class AntFigureTest : public PainterTest {
     Nest& nest = world.Nests[0];
     nest.AntLength = 60;
     nest.FoodStore = 1256.63704;  // Pi * 20^2
-    // Rear, head, cell, angle, Length 840, the load, life factor, energy, colour.
-    nest.Ants[index] = Ant{100, 200, 184, 242, 0, 0, 0, 840, load, 0, 0, Red};
+    nest.Ants[index] = Ant{.RearX = 100, .RearY = 200, .HeadX = 184, .HeadY = 242, .Length = 840, .Load = load, .Colour = Red};
     painter.DrawAnt(world, nest, index);
   }
 };
@@ -342,8 +341,8 @@ class FrameTest : public PainterTest {
   }
   void Tick(TickPainter& withPainter) {
     IgnoredTickEvents events;
-    TickContext context{world, test.random, withPainter, events};
-    RunTick(context, TickInputOf(test.window, world));
+    TickContext context{world, test.random, events};
+    RunTick(context, withPainter, TickInputOf(test.window, world));
   }
 };
 

@@ -49,12 +49,12 @@ TEST(Soak, CrowdedMultiNestWorldKeepsItsBookkeeping) {
   for (const auto& [x, y] : {std::pair{8, 8}, {22, 8}, {15, 22}}) rig.AddNestAt(x, y);
   for (int16_t y = 12; y <= 18; ++y) ASSERT_TRUE(AddWallAt(world, 12, y));
   ScentRangePainter painter;
-  TickContext context{world, rig.test.random, painter, rig.events};
+  TickContext context{world, rig.test.random, rig.events};
   for (int tick = 0; tick < 3000 && !::testing::Test::HasFatalFailure(); ++tick) {
     SCOPED_TRACE(tick);
     world.Running = true;  // resumes after the limit message
     rig.test.clock.Advance(0.075);
-    RunTick(context, TickInputOf(rig.window(), world));
+    RunTick(context, painter, TickInputOf(rig.window(), world));
     ExpectInvariants(world);
     ASSERT_FALSE(painter.OutOfRange);
   }

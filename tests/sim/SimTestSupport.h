@@ -27,7 +27,8 @@ class RecordingEvents : public TickEvents {
   bool NestedTickStarted = false;
   void PopulationLimitReached() override {
     ++LimitsReached;
-    if (Reenter != nullptr) NestedTickStarted = RunTick(*Reenter, TickInputOf(window_, world_));
+    NullPainter painter;
+    if (Reenter != nullptr) NestedTickStarted = RunTick(*Reenter, painter, TickInputOf(window_, world_));
     TogglePlayPause(world_, window_);
   }
 
@@ -42,12 +43,12 @@ struct TickRig {
   TestWorld test;
   NullPainter nullPainter;
   RecordingEvents events{test.world, test.window};
-  TickContext context{test.world, test.random, nullPainter, events};
+  TickContext context{test.world, test.random, events};
   World& world() { return test.world; }
   WindowState& window() { return test.window; }
   void Tick() {
     test.clock.Advance(0.075);
-    RunTick(context, TickInputOf(test.window, test.world));
+    RunTick(context, nullPainter, TickInputOf(test.window, test.world));
   }
   void AddNestAt(int x, int y) {
     ASSERT_TRUE(CreateNest(world(), test.random, static_cast<int16_t>(x), static_cast<int16_t>(y)));

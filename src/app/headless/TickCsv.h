@@ -1,5 +1,5 @@
 // The per-tick CSV of a batch run: a header, then one row of totals for each
-// tick. Numbers are written in their shortest exact decimal form.
+// tick (sim/TickTotals).
 #pragma once
 
 #include <cstdint>
@@ -10,11 +10,6 @@ struct World;
 }
 
 namespace keldor::headless {
-
-inline constexpr const char* TickCsvHeader = "tick,Population,NestCount,FoodPileCount,FoodOnMap,FoodStored,Carrying,ScentedCells";
-
-// Writes one row: the totals of the world as it is after tick number `tick`.
-void WriteTickCsvRow(std::ostream& out, int64_t tick, const World& world);
 
 class TickCsv {
  public:

@@ -3,6 +3,7 @@
 #include <charconv>
 
 #include "app/headless/TickCsv.h"
+#include "sim/TickTotals.h"
 
 namespace keldor::sweep {
 
@@ -21,7 +22,7 @@ std::string CsvField(const std::string& text) {
 std::string ResultsHeader(const Experiment& experiment) {
   std::string header = "run";
   for (const VariedOption& v : experiment.Vary) header += "," + CsvField(v.Name);
-  return header + ",seed," + headless::TickCsvHeader + "\n";
+  return header + ",seed," + TickCsvHeader + "\n";
 }
 
 std::string ResultsRow(const RunSpec& run, const std::string& lastTickRow) {

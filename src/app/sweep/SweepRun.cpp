@@ -9,6 +9,7 @@
 #include "model/Random.h"
 #include "model/World.h"
 #include "sim/TickPainter.h"
+#include "sim/TickTotals.h"
 #include "window/Commands.h"
 #include "window/WindowState.h"
 
@@ -38,7 +39,7 @@ RunOutcome RunOne(const headless::HeadlessOptions& options, int64_t every) {
   });
 
   std::ostringstream row;
-  headless::WriteTickCsvRow(row, options.Ticks, world);
+  WriteTickCsvRow(row, options.Ticks, MeasureTotals(world));
   outcome.LastRow = row.str();
   outcome.Series = series.str();
   outcome.Messages = messages.str();
