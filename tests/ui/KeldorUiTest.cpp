@@ -393,16 +393,6 @@ class KeldorUiTest : public QObject {
     QCOMPARE(int(s.FoodRate), 2);
   }
 
-  void theTickReadsTheNestSliderWhileOpen() {
-    int valueWhileShown = 0;
-    OpenOptions([&](QWidget* dialog) {
-      Child<QSlider>(dialog, "sliNestTrace")->setValue(77);
-      valueWhileShown = TickInputOf(window_->Window(), window_->TheWorld()).NestTraceSlider.value_or(-1);
-    });
-    QCOMPARE(valueWhileShown, 77);
-    QVERIFY(!TickInputOf(window_->Window(), window_->TheWorld()).NestTraceSlider);
-  }
-
   void destroyingTheDialogWhileABoxHasTheFocus() {
     auto* dialog = new OptionsDialog(window_->TheWorld(), window_->Window(), W());
     dialog->show();

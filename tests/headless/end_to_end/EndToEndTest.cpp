@@ -35,39 +35,13 @@ QByteArray ReadAll(const QString& path) {
   return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-TEST(EndToEndTest, SeededRunsWriteTheSameConsistentStateAndBadArgumentsExitWithTwo) {
-  QTemporaryDir dir;
-  const Finished run = RunProgram({"--seed", "3", "--ticks", "50", "--json", dir.filePath("a.json")});
+// The golden runs pin what a seeded run writes; here the program itself
+// starts without a display, reports, and exits with 2 on a bad argument.
+TEST(EndToEndTest, RunsWithoutADisplayAndABadArgumentExitsWithTwo) {
+  const Finished run = RunProgram({"--seed", "3", "--ticks", "50"});
   ASSERT_TRUE(run.finished && !run.crashed);
-  ASSERT_EQ(run.status, 0) << run.err.toStdString();
+  EXPECT_EQ(run.status, 0) << run.err.toStdString();
   EXPECT_TRUE(run.out.startsWith("keldor-headless: 50 ticks, population ")) << run.out.toStdString();
-  ASSERT_EQ(RunProgram({"--seed", "3", "--ticks", "50", "--json", dir.filePath("b.json")}).status, 0);
-  EXPECT_EQ(ReadAll(dir.filePath("a.json")), ReadAll(dir.filePath("b.json")));
-
-  const QJsonObject state = QJsonDocument::fromJson(ReadAll(dir.filePath("a.json"))).object();
-  EXPECT_EQ(state["Tick"].toInt(), 50);
-  EXPECT_EQ(state["Cells"].toArray().size(), state["GridX"].toInt() * state["GridY"].toInt());
-  EXPECT_EQ(state["FoodPiles"].toArray().size(), state["FoodPileCount"].toInt());
-  const QJsonArray nests = state["Nests"].toArray();
-  ASSERT_EQ(nests.size(), state["NestCount"].toInt());
-  // Population counts the living ants, and each cell's AntCount the living ants on it.
-  int living = 0;
-  std::map<std::pair<int, int>, int> antsOnCell;
-  for (const QJsonValue& nest : nests) {
-    for (const QJsonValue& ant : nest.toObject()["Ants"].toArray()) {
-      const QJsonObject a = ant.toObject();
-      if (a["Energy"].toDouble() <= 0) continue;
-      ++living;
-      ++antsOnCell[{a["CellX"].toInt(), a["CellY"].toInt()}];
-    }
-  }
-  EXPECT_EQ(living, state["Population"].toInt());
-  for (const QJsonValue& cell : state["Cells"].toArray()) {
-    const QJsonObject c = cell.toObject();
-    const auto found = antsOnCell.find({c["X"].toInt(), c["Y"].toInt()});
-    EXPECT_EQ(c["AntCount"].toInt(), found == antsOnCell.end() ? 0 : found->second);
-  }
-
   const Finished bad = RunProgram({"--grid", "abc"});
   EXPECT_FALSE(bad.crashed);
   EXPECT_EQ(bad.status, 2);

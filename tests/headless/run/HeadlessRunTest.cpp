@@ -116,24 +116,6 @@ TEST(HeadlessRunTest, BadArgumentsExitWithStatusTwoNamingThem) {
   EXPECT_FALSE(QFile::exists(unwritable));
 }
 
-TEST(HeadlessRunTest, WritesOneCsvRowPerTickAndTheFinalState) {
-  QTemporaryDir dir;
-  const InProcessRun run({"--seed", "3", "--ticks", "20", "--csv", dir.filePath("t.csv"), "--json", dir.filePath("s.json")});
-  ASSERT_EQ(run.status, ExitOk) << run.err.str();
-  const QList<QByteArray> lines = ReadAll(dir.filePath("t.csv")).trimmed().split('\n');
-  ASSERT_EQ(lines.size(), 21);
-  EXPECT_EQ(lines[0], "tick,Population,NestCount,FoodPileCount,FoodOnMap,FoodStored,Carrying,ScentedCells");
-  const QJsonObject json = ReadJson(dir.filePath("s.json"));
-  EXPECT_EQ(json["Tick"].toInt(), 20);
-  EXPECT_TRUE(json["Running"].toBool());
-  // The last row describes the state the JSON holds.
-  const QList<QByteArray> last = lines[20].split(',');
-  EXPECT_EQ(last[0], "20");
-  EXPECT_EQ(last[1].toInt(), json["Population"].toInt());
-  EXPECT_EQ(last[3].toInt(), json["FoodPiles"].toArray().size());
-  EXPECT_NE(run.out.str().find("20 ticks"), std::string::npos) << run.out.str();
-}
-
 TEST(HeadlessRunTest, PopulationLimitIsReportedOnStandardErrorAndPressesPlayPause) {
   QTemporaryDir dir;
   const InProcessRun running({"--seed", "5", "--ants-per-nest", "2000", "--ticks", "1", "--json", dir.filePath("r.json")});
