@@ -40,7 +40,7 @@ void ScatterFood(World& world, RandomSource& random) {
       FoodPile& p = world.FoodPiles.Append();
       p.X = x;
       p.Y = y;
-      p.SpreadBudget = static_cast<int16_t>(CInt(Int(random.Rnd() * 8) + 1));
+      p.SpreadBudget = DrawSpreadBudget(random);
       const double half = s.CellSize / 2 * NewWorldZoom;
       p.Amount = Pi * (random.Rnd() * 3 + 1) / 4 * (half * half);
       c.Food = p.Amount;
@@ -54,19 +54,17 @@ void PlaceAnt(const Nest& n, Ant& a, int index, const WorldSettings& s, RandomSo
     a.Length = n.Radius;
     a.RearX = n.X;
     a.RearY = n.Y;
-    const double r1 = random.Rnd(), r2 = random.Rnd(), r3 = random.Rnd();
-    const double reach = a.Length / s.ScaleX;
-    a.HeadX = a.RearX + SignOfDraw(r1) * r2 * a.Length / s.ScaleX;
-    a.HeadY = a.RearY + SignOfDraw(r3) * std::sqrt(reach * reach - (a.HeadX - a.RearX) * (a.HeadX - a.RearX));
+    const WorldPoint head = PointOnCircle(random, {a.RearX, a.RearY}, a.Length, s.ScaleX);
+    a.HeadX = head.X;
+    a.HeadY = head.Y;
   } else {
     // A worker: head on the nest centre, rear on a circle around it.
     a.Length = n.AntLength;
     a.HeadX = n.X;
     a.HeadY = n.Y;
-    const double r1 = random.Rnd(), r2 = random.Rnd(), r3 = random.Rnd();
-    const double reach = n.AntLength / s.ScaleX;
-    a.RearX = a.HeadX + SignOfDraw(r1) * r2 * n.AntLength / s.ScaleX;
-    a.RearY = a.HeadY + SignOfDraw(r3) * std::sqrt(reach * reach - (a.RearX - a.HeadX) * (a.RearX - a.HeadX));
+    const WorldPoint rear = PointOnCircle(random, {a.HeadX, a.HeadY}, n.AntLength, s.ScaleX);
+    a.RearX = rear.X;
+    a.RearY = rear.Y;
   }
   a.CellX = n.CellX;
   a.CellY = n.CellY;
@@ -151,6 +149,23 @@ bool CreateNest(World& world, RandomSource& random, int16_t cellX, int16_t cellY
   Cell& c = world.Cells(n.CellX, n.CellY);
   c.AntCount = static_cast<int16_t>(c.AntCount + antCount);
   return true;
+}
+
+WorldPoint PointOnCircle(RandomSource& random, WorldPoint centre, double length, double scaleX) {
+  const double signX = SignOfDraw(random.Rnd());
+  const double x = centre.X + signX * random.Rnd() * length / scaleX;
+  const double signY = SignOfDraw(random.Rnd());
+  const double reach = length / scaleX;
+  return {x, centre.Y + signY * std::sqrt(reach * reach - (x - centre.X) * (x - centre.X))};
+}
+
+int16_t DrawSpreadBudget(RandomSource& random) { return static_cast<int16_t>(CInt(Int(random.Rnd() * 8) + 1)); }
+
+void RemoveNestRecord(World& world, int n) {
+  const int last = world.NestCount - 1;
+  if (n != last) world.Nests[static_cast<size_t>(n)] = std::move(world.Nests[static_cast<size_t>(last)]);
+  --world.NestCount;
+  world.Nests.resize(static_cast<size_t>(world.NestCount));
 }
 
 std::string MakeSignature(RandomSource& random, int n) {

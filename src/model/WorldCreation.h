@@ -8,6 +8,7 @@
 #include <string>
 #include <utility>
 
+#include "model/Records.h"
 #include "model/WorldSettings.h"
 
 namespace keldor {
@@ -47,6 +48,17 @@ std::pair<int16_t, int16_t> FirstNestCell(const WorldSettings& settings);
 // a world cell. Returns false, changing nothing, when the nest list is full
 // or the population would pass 32767.
 bool CreateNest(World& world, RandomSource& random, int16_t cellX, int16_t cellY);
+
+// A point at distance length / ScaleX from the centre in a random direction,
+// from three draws: the sign of its x offset, the size of it, the sign of its
+// y offset. Where a new ant's free end lies round the nest centre.
+WorldPoint PointOnCircle(RandomSource& random, WorldPoint centre, double length, double scaleX);
+
+// The spread budget of a new food pile, 1 to 8: CInt(Int(Rnd * 8) + 1).
+int16_t DrawSpreadBudget(RandomSource& random);
+
+// Removes nest n from the list: the last nest moves into its slot.
+void RemoveNestRecord(World& world, int n);
 
 // A string of n characters "0"/"1" drawn after reseeding from the clock.
 std::string MakeSignature(RandomSource& random, int n);

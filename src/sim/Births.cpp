@@ -6,6 +6,7 @@
 #include "model/Queries.h"
 #include "model/Random.h"
 #include "model/World.h"
+#include "model/WorldCreation.h"
 
 namespace keldor {
 namespace {
@@ -17,12 +18,9 @@ void BearAnt(World& world, RandomSource& random, Nest& nest, Ant& ant) {
   ant.RearY = nest.Y;
   ant.Length = nest.AntLength;
   ant.Energy = Int(Pi * (ant.Length * ant.Length) * (0.9 + 0.1 * random.Rnd()));
-  const double reach = ant.Length / s.ScaleX;
-  const double signX = SignOfDraw(random.Rnd());
-  ant.HeadX = ant.RearX + signX * random.Rnd() * ant.Length / s.ScaleX;
-  const double signY = SignOfDraw(random.Rnd());
-  const double dx = ant.HeadX - ant.RearX;
-  ant.HeadY = ant.RearY + signY * std::sqrt(reach * reach - dx * dx);
+  const WorldPoint head = PointOnCircle(random, {ant.RearX, ant.RearY}, ant.Length, s.ScaleX);
+  ant.HeadX = head.X;
+  ant.HeadY = head.Y;
   ant.Angle = 0;
   ant.CellX = CellOfCoordinate(ant.HeadX, s.CellSize);
   ant.CellY = CellOfCoordinate(ant.HeadY, s.CellSize);

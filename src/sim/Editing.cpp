@@ -4,6 +4,7 @@
 #include "model/Queries.h"
 #include "model/Random.h"
 #include "model/World.h"
+#include "model/WorldCreation.h"
 
 namespace keldor {
 namespace {
@@ -40,7 +41,7 @@ FoodPile* AppendFoodPile(World& world, RandomSource& random, int16_t x, int16_t 
   FoodPile& pile = world.FoodPiles.Append();
   pile.X = x;
   pile.Y = y;
-  pile.SpreadBudget = static_cast<int16_t>(CInt(Int(random.Rnd() * 8) + 1));
+  pile.SpreadBudget = DrawSpreadBudget(random);
   pile.Amount = amount;
   return &pile;
 }
@@ -139,10 +140,7 @@ void RemoveNestAt(World& world, RandomSource& random, int x, int y) {
     cell.Food = Min(ant.Load + cell.Food, capacity);
     --world.Settings.Population;
   }
-  const int last = world.NestCount - 1;
-  if (found != last) world.Nests[static_cast<size_t>(found)] = world.Nests[static_cast<size_t>(last)];
-  --world.NestCount;
-  world.Nests.resize(static_cast<size_t>(world.NestCount));
+  RemoveNestRecord(world, found);
 }
 
 }  // namespace keldor

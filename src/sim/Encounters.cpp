@@ -14,8 +14,11 @@
 namespace keldor {
 namespace {
 
-// Queens are broader: their reach counts an eighth of their length.
-double ReachShare(const Ant& ant, int index) { return ant.Length / (index == 0 ? 8 : 5); }
+// An ant's share of a touch reach: an eighth of a queen's length (she is
+// broader), a fifth of a worker's.
+constexpr double QueenReachDivisor = 8;
+constexpr double WorkerReachDivisor = 5;
+double ReachShare(const Ant& ant, int index) { return ant.Length / (index == 0 ? QueenReachDivisor : WorkerReachDivisor); }
 
 // The biter's head touches the living victim's body.
 bool Touches(const World& world, const Ant& biter, int biterIndex, const Ant& victim, int victimIndex) {
@@ -48,7 +51,7 @@ class NearbyEncounters {
     for (int n = 0; n < world.NestCount; ++n) {
       const Nest& nest = world.Nests[static_cast<size_t>(n)];
       const Ant& queen = nest.Ants[0];
-      queenReach_.push_back(queen.Length / 8 / 2 / world.Settings.ScaleX + std::sqrt(SquaredSpan(queen)));
+      queenReach_.push_back(ReachShare(queen, 0) / 2 / world.Settings.ScaleX + std::sqrt(SquaredSpan(queen)));
       for (int a = 1; a < nest.AntCount(); ++a) {
         const Ant& ant = nest.Ants[a];
         if (!(ant.Energy > 0)) continue;
@@ -85,7 +88,7 @@ class NearbyEncounters {
         first = 0;
       }
     }
-    const double workerReach = biterShare + workerLength_ / 5 / 2 / scaleX + workerSpan_;
+    const double workerReach = biterShare + workerLength_ / WorkerReachDivisor / 2 / scaleX + workerSpan_;
     const double paddedReach = PaddedReach(workerReach, world_.Settings.CellSize);
     index_.ForEachNear(biter.HeadX, biter.HeadY, workerReach, [&](const IndexedAnt& near) {
       // A run lists its nest's ants in rising order: once past the first

@@ -3,18 +3,9 @@
 #include "model/Numeric.h"
 #include "model/Queries.h"
 #include "model/World.h"
+#include "model/WorldCreation.h"
 
 namespace keldor {
-namespace {
-
-void RemoveNest(World& world, int n) {
-  const int last = world.NestCount - 1;
-  if (n != last) world.Nests[static_cast<size_t>(n)] = world.Nests[static_cast<size_t>(last)];
-  --world.NestCount;
-  world.Nests.resize(static_cast<size_t>(world.NestCount));
-}
-
-}  // namespace
 
 void AntUpkeep(World& world) {
   if (!world.Running) return;
@@ -40,7 +31,7 @@ void AntUpkeep(World& world) {
       }
       if (-nest.AntUnit / 4 >= ant.Energy) {
         if (i == 0 && nest.AntCount() == 1) {
-          RemoveNest(world, n);
+          RemoveNestRecord(world, n);
           --n;
           break;
         }
