@@ -108,10 +108,12 @@ TEST(AntIndex, IndexedTicksMatchFullScansOnRandomWorlds) {
 }
 
 // Four big colonies side by side: rivals and queens meet in crowded cells.
+// Their ants are half as long as New's, so the first nest sets the reach.
 TEST(AntIndex, IndexedTicksMatchFullScansInACrowdedWorld) {
   for (uint64_t seed = 1; seed <= 2 && !::testing::Test::HasFatalFailure(); ++seed) {
     ExpectIndexChangesNothing(seed, 60, [](TickRig& rig) {
       rig.world().Settings.AntsPerNest = 480;
+      rig.world().Settings.AntSizeMm = 1.5;
       for (const auto& [x, y] : {std::pair{14, 14}, {15, 14}, {14, 15}, {15, 15}}) rig.AddNestAt(x, y);
     });
   }
