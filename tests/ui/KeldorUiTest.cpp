@@ -312,15 +312,6 @@ class KeldorUiTest : public QObject {
     QVERIFY(CellHasObjectType(w, "PLASTER_BRICK", 3, 4) && CellHasObjectType(w, "PLASTER_BRICK", 7, 4));
   }
 
-  void nestPressTogglesANest() {
-    World& w = StartWithTool(4);
-    for (int nests : {2, 1}) {
-      QTest::mouseClick(View(), Qt::LeftButton, {}, PixelOfCell(5, 6));
-      QCOMPARE(int(w.NestCount), nests);
-      QCOMPARE(IsNestCell(w, 5, 6), nests == 2);
-    }
-  }
-
   void heldFoodToolGrowsAPileWhilePaused() {
     World& w = StartWithTool(1);
     QVERIFY(!w.Running);
@@ -368,29 +359,6 @@ class KeldorUiTest : public QObject {
       Type(dialog, "txtGridDimX", "1000");
       QCOMPARE(Child<QLineEdit>(dialog, "txtGridDimX")->text(), QString("181"));
     });
-  }
-
-  void cancelKeepsWhatWasTakenOverOnChange() {
-    OpenOptions([&](QWidget* dialog) {
-      Type(dialog, "txtNumAnts", "12");
-      Type(dialog, "txtAntsBlue", "200");
-      Child<QSlider>(dialog, "sliLifeSpan")->setValue(10);
-      Child<QSlider>(dialog, "sliFoodRate")->setValue(60);
-      Child<QSlider>(dialog, "sliFoodTrace")->setValue(123);
-      auto* size = Child<QLineEdit>(dialog, "txtAntSize");  // taken over by leaving it for Cancel
-      size->setFocus();
-      size->selectAll();
-      QTest::keyClicks(size, "2.5");
-      QTest::mouseClick(Child<QPushButton>(dialog, "btnCancel"), Qt::LeftButton);
-    });
-    const WorldSettings& s = window_->TheWorld().Settings;
-    QCOMPARE(int(s.AntsPerNest), 12);
-    QCOMPARE(s.AntSizeMm, 2.5);
-    QCOMPARE(s.AntColour, Rgb(150, 100, 200));
-    QCOMPARE(int(s.FoodTraceSetting), 123);
-    QCOMPARE(int(s.AntBlue), 70);
-    QCOMPARE(int(s.LifeSpan), 100);
-    QCOMPARE(int(s.FoodRate), 2);
   }
 
   void destroyingTheDialogWhileABoxHasTheFocus() {

@@ -18,15 +18,6 @@ WindowState StartedWindow() {
   return w;
 }
 
-TEST(ViewportTest, IsPointVisibleIsStrictInSinglePrecision) {
-  const ViewScale v{100, 200, 50, 60};
-  const std::tuple<double, double, bool> points[] = {
-      {101, 201, true},           {149.99, 259.99, true}, {100, 201, false},
-      {150, 201, false},          {101, 200, false},      {101, 260, false},
-      {100.000000001, 201, false}};  // a hair inside the edge compares equal to it
-  for (const auto& [x, y, visible] : points) EXPECT_EQ(IsPointVisible(x, y, v), visible) << x << "," << y;
-}
-
 TEST(ViewportTest, StartUpCentresZoomKeepsTheCentreWithinLimits) {
   WindowState w = StartedWindow();
   // Zoom 10: the world is 20000 terrain units wide, the view 6720.
