@@ -76,8 +76,14 @@ void SendMouse(QWidget* target, QEvent::Type type, QPoint at, Qt::MouseButton bu
 
 // Replaces a box's text by typing, then leaves the box (its text is taken over).
 void Type(QWidget* dialog, const char* box, const QString& text) {
+  // The box takes its text over when it loses the focus, which it only has
+  // while the dialog is the active window: a loaded machine may be slow to
+  // make it so.
+  dialog->activateWindow();
+  QVERIFY(QTest::qWaitForWindowActive(dialog));
   auto* edit = Child<QLineEdit>(dialog, box);
   edit->setFocus();
+  QTRY_VERIFY(edit->hasFocus());
   edit->selectAll();
   QTest::keyClicks(edit, text);
   QTest::keyClick(edit, Qt::Key_Tab);
