@@ -28,7 +28,7 @@
 #include "sim/TickPainter.h"
 #include "ui/TwipScale.h"
 #include "window/FastestPacer.h"
-#include "window/Inspection.h"
+#include "window/PickReport.h"
 #include "window/RunChart.h"
 #include "window/RunClock.h"
 #include "window/RunSpeed.h"
@@ -49,7 +49,7 @@ class Registry;
 class ProgramStarter;
 class OptionsDialog;
 class ChartsWindow;
-class InspectorWindow;
+class PickWindow;
 
 inline constexpr int TickIntervalMs = TickPeriodMs;
 
@@ -86,7 +86,7 @@ class MainWindow : public QMainWindow {
   // One tick of a paused world.
   void Step();
   ChartsWindow* Charts();
-  InspectorWindow* Inspector();
+  PickWindow* PickView();
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
@@ -164,7 +164,7 @@ class MainWindow : public QMainWindow {
   double chartsShownAt_ = -1;
   Pick pick_;
   QPointer<ChartsWindow> charts_;
-  QPointer<InspectorWindow> inspector_;
+  QPointer<PickWindow> pickWindow_;
   std::array<QAction*, std::size(AllRunSpeeds)> mnuSpeed_{};
   QLabel* lblStatus_ = nullptr;
 

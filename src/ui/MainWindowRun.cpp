@@ -14,7 +14,7 @@
 #include "render/PickMarker.h"
 #include "sim/Tick.h"
 #include "ui/ChartsWindow.h"
-#include "ui/InspectorWindow.h"
+#include "ui/PickWindow.h"
 #include "ui/PictureBox.h"
 #include "ui/MainWindow.h"
 #include "window/StatusText.h"
@@ -71,7 +71,7 @@ void MainWindow::BuildRunMenus(QMenu* file, QMenu* tools) {
   tools->addSeparator();
   tools->addAction("&Charts", QKeySequence("Ctrl+G"), this, [this] { Charts()->show(), Charts()->raise(), ShowRun(); })
       ->setObjectName("mnuCharts");
-  tools->addAction("&Inspector", QKeySequence("Ctrl+I"), this, [this] { Inspector()->show(), Inspector()->raise(), ShowRun(); })
+  tools->addAction("&Inspector", QKeySequence("Ctrl+I"), this, [this] { PickView()->show(), PickView()->raise(), ShowRun(); })
       ->setObjectName("mnuInspector");
 
   lblStatus_ = new QLabel(this);
@@ -189,7 +189,7 @@ void MainWindow::ShowRun() {
     charts_->Refresh();
     chartsShownAt_ = now;
   }
-  if (inspector_ && inspector_->isVisible()) inspector_->Show(Inspect(world_, pick_));
+  if (pickWindow_ && pickWindow_->isVisible()) pickWindow_->Show(ReportPick(world_, pick_));
 }
 
 void MainWindow::PickAt(QPointF pixel) {
@@ -206,9 +206,9 @@ ChartsWindow* MainWindow::Charts() {
   return charts_;
 }
 
-InspectorWindow* MainWindow::Inspector() {
-  if (!inspector_) inspector_ = new InspectorWindow(this);
-  return inspector_;
+PickWindow* MainWindow::PickView() {
+  if (!pickWindow_) pickWindow_ = new PickWindow(this);
+  return pickWindow_;
 }
 
 double MainWindow::Seconds() const { return static_cast<double>(steady_.nsecsElapsed()) / 1e9; }

@@ -18,7 +18,7 @@
 #include "window/MessageBox.h"
 #include "model/Random.h"
 #include "ui/ChartsWindow.h"
-#include "ui/InspectorWindow.h"
+#include "ui/PickWindow.h"
 #include "ui/PictureBox.h"
 #include "ui/MainWindow.h"
 
@@ -140,7 +140,7 @@ class RunWorkbenchTest : public QObject {
     const QPoint pixel(int((12.5 * cell * view.ZoomX - view.Terrain.Left) / perPixel),
                        int((12.5 * cell * view.ZoomY - view.Terrain.Top) / perPixel));
     QTest::mouseClick(W()->findChild<PictureBox*>("picTerreno"), Qt::LeftButton, {}, pixel);
-    InspectorWindow* inspector = window_->Inspector();
+    PickWindow* inspector = window_->PickView();
     QCOMPARE(inspector->Title(), QString("Ant"));
     QVERIFY2(inspector->Text().startsWith("Nest: NEST_0\nEnergy: 1234.50\nLoad: 0.00\nLife factor: 1.00\nCell: (13, 13)"),
              qPrintable(inspector->Text()));

@@ -158,10 +158,10 @@ int64_t Experiment::CombinationCount() const {
   return count;
 }
 
-RunSpec Experiment::Run(int64_t run) const {
-  RunSpec spec;
-  spec.Run = run;
-  spec.Seed = Seed + static_cast<uint64_t>(run % Repetitions);
+RunPlan Experiment::Run(int64_t run) const {
+  RunPlan plan;
+  plan.Run = run;
+  plan.Seed = Seed + static_cast<uint64_t>(run % Repetitions);
   std::vector<size_t> chosen(Vary.size());
   int64_t combination = run / Repetitions;
   for (size_t i = Vary.size(); i-- > 0;) {
@@ -169,15 +169,15 @@ RunSpec Experiment::Run(int64_t run) const {
     chosen[i] = static_cast<size_t>(combination % size);
     combination /= size;
   }
-  spec.Arguments << "keldor-sweep";
-  for (const auto& [name, value] : Options) AppendOption(spec.Arguments, name, value);
+  plan.Arguments << "keldor-sweep";
+  for (const auto& [name, value] : Options) AppendOption(plan.Arguments, name, value);
   for (size_t i = 0; i < Vary.size(); ++i) {
     const JsonValue& value = Vary[i].Values[chosen[i]];
-    AppendOption(spec.Arguments, Vary[i].Name, value);
-    spec.VariedValues.push_back(ValueText(value));
+    AppendOption(plan.Arguments, Vary[i].Name, value);
+    plan.VariedValues.push_back(ValueText(value));
   }
-  spec.Arguments << QString("--seed=%1").arg(spec.Seed) << "--ticks=" + QString::fromStdString(Ticks);
-  return spec;
+  plan.Arguments << QString("--seed=%1").arg(plan.Seed) << "--ticks=" + QString::fromStdString(Ticks);
+  return plan;
 }
 
 QStringList Experiment::BaseArguments() const {

@@ -30,7 +30,7 @@ struct VariedOption {
 };
 
 // What one run is given.
-struct RunSpec {
+struct RunPlan {
   int64_t Run = 0;
   uint64_t Seed = 0;
   std::vector<std::string> VariedValues;  // the varied options' values as text, in key order
@@ -47,7 +47,7 @@ struct Experiment {
 
   int64_t CombinationCount() const;
   int64_t RunCount() const { return CombinationCount() * Repetitions; }
-  RunSpec Run(int64_t run) const;
+  RunPlan Run(int64_t run) const;
   // The command line of the shared options, the seed and the tick count.
   QStringList BaseArguments() const;
   // The same with one value of a varied option.

@@ -23,7 +23,7 @@ std::optional<std::string> CheckExperiment(const Experiment& experiment) {
     }
   }
   for (int64_t combination = 0; combination < experiment.CombinationCount(); ++combination) {
-    const RunSpec run = experiment.Run(combination * experiment.Repetitions);
+    const RunPlan run = experiment.Run(combination * experiment.Repetitions);
     auto problem = ParseRunArguments(run.Arguments, options);
     if (!problem) problem = CheckWorld(options);
     if (problem) {

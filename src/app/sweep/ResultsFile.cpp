@@ -25,7 +25,7 @@ std::string ResultsHeader(const Experiment& experiment) {
   return header + ",seed," + TickCsvHeader + "\n";
 }
 
-std::string ResultsRow(const RunSpec& run, const std::string& lastTickRow) {
+std::string ResultsRow(const RunPlan& run, const std::string& lastTickRow) {
   std::string row = std::to_string(run.Run);
   for (const std::string& value : run.VariedValues) row += "," + CsvField(value);
   return row + "," + std::to_string(run.Seed) + "," + lastTickRow;

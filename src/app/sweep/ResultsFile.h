@@ -18,7 +18,7 @@ namespace keldor::sweep {
 // run, the varied option names, seed, then the per-tick CSV's columns.
 std::string ResultsHeader(const Experiment& experiment);
 // The row of a run whose last tick gave `lastTickRow` (a per-tick CSV row).
-std::string ResultsRow(const RunSpec& run, const std::string& lastTickRow);
+std::string ResultsRow(const RunPlan& run, const std::string& lastTickRow);
 
 class ResultsFile {
  public:

@@ -48,9 +48,9 @@ struct FinishedRun {
 };
 
 FinishedRun Execute(const Experiment& experiment, const QString& outPath, int64_t run) {
-  const RunSpec spec = experiment.Run(run);
+  const RunPlan plan = experiment.Run(run);
   headless::HeadlessOptions options;
-  if (auto problem = ParseRunArguments(spec.Arguments, options)) {
+  if (auto problem = ParseRunArguments(plan.Arguments, options)) {
     return {"", "", "run " + std::to_string(run) + ": " + *problem, ExitBadArguments};
   }
   const RunOutcome outcome = RunOne(options, experiment.Every);
@@ -62,7 +62,7 @@ FinishedRun Execute(const Experiment& experiment, const QString& outPath, int64_
       return {"", "", "writing '" + series.fileName().toStdString() + "' failed", ExitWriteFailed};
     }
   }
-  return {ResultsRow(spec, outcome.LastRow), outcome.Messages, "", ExitOk};
+  return {ResultsRow(plan, outcome.LastRow), outcome.Messages, "", ExitOk};
 }
 
 // Runs the pending runs on `jobs` threads. Each thread takes the next run in

@@ -33,11 +33,11 @@ Pick PickAt(const World& world, double x, double y, double reach);
 // The picked ant while it lives; null once it died or was removed.
 const Ant* LivingAnt(const World& world, const Pick& pick);
 
-struct Inspection {
+struct PickReport {
   std::string Title;
   std::vector<std::pair<std::string, std::string>> Lines;  // label, value
 };
 
-Inspection Inspect(const World& world, const Pick& pick);
+PickReport ReportPick(const World& world, const Pick& pick);
 
 }  // namespace keldor

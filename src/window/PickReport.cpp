@@ -1,4 +1,4 @@
-#include "window/Inspection.h"
+#include "window/PickReport.h"
 
 #include <algorithm>
 #include <cmath>
@@ -61,7 +61,7 @@ int LivingAnts(const Nest& nest) {
   return static_cast<int>(std::count_if(nest.Ants.begin(), nest.Ants.end(), [](const Ant& a) { return a.Energy > 0; }));
 }
 
-Inspection InspectAnt(const World& world, const Pick& pick) {
+PickReport ReportAnt(const World& world, const Pick& pick) {
   const AntPlace place = FindAnt(world, pick.Serial);
   if (place.Home == nullptr) return {"The picked ant is gone", {}};
   const Ant& a = place.Home->Ants[place.Index];
@@ -78,7 +78,7 @@ Inspection InspectAnt(const World& world, const Pick& pick) {
            {"Angle", Number(a.Angle, 4)}}};
 }
 
-Inspection InspectNest(const World& world, const Pick& pick) {
+PickReport ReportNest(const World& world, const Pick& pick) {
   const Nest* nest = FindNest(world, pick.Serial);
   if (nest == nullptr) return {"The picked nest is gone", {}};
   return {"Nest",
@@ -89,7 +89,7 @@ Inspection InspectNest(const World& world, const Pick& pick) {
            {"Signature", nest->Signature.ToString()}}};
 }
 
-Inspection InspectCell(const World& world, const Pick& pick) {
+PickReport ReportCell(const World& world, const Pick& pick) {
   if (!world.HasWorld() || pick.CellX > world.Settings.GridX || pick.CellY > world.Settings.GridY) {
     return {"The picked cell is gone", {}};
   }
@@ -141,11 +141,11 @@ const Ant* LivingAnt(const World& world, const Pick& pick) {
   return ant.Energy > 0 ? &ant : nullptr;
 }
 
-Inspection Inspect(const World& world, const Pick& pick) {
+PickReport ReportPick(const World& world, const Pick& pick) {
   switch (pick.What) {
-    case Pick::Kind::Ant: return InspectAnt(world, pick);
-    case Pick::Kind::Nest: return InspectNest(world, pick);
-    case Pick::Kind::Cell: return InspectCell(world, pick);
+    case Pick::Kind::Ant: return ReportAnt(world, pick);
+    case Pick::Kind::Nest: return ReportNest(world, pick);
+    case Pick::Kind::Cell: return ReportCell(world, pick);
     case Pick::Kind::None: break;
   }
   return {"Choose the arrow tool and click an ant, a nest or a cell", {}};

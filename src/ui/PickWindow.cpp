@@ -1,25 +1,25 @@
-#include "ui/InspectorWindow.h"
+#include "ui/PickWindow.h"
 
 #include <QFont>
 #include <QLabel>
 #include <QVBoxLayout>
 
-#include "window/Inspection.h"
+#include "window/PickReport.h"
 
 namespace keldor {
 
-InspectorWindow::InspectorWindow(QWidget* parent) : QWidget(parent, Qt::Window) {
-  setObjectName("frmInspector");
+PickWindow::PickWindow(QWidget* parent) : QWidget(parent, Qt::Window) {
+  setObjectName("frmPick");
   setWindowTitle("Keldor Inspector");
   auto* layout = new QVBoxLayout(this);
   title_ = new QLabel(this);
-  title_->setObjectName("lblInspectTitle");
+  title_->setObjectName("lblPickTitle");
   QFont bold = title_->font();
   bold.setBold(true);
   title_->setFont(bold);
   title_->setWordWrap(true);
   lines_ = new QLabel(this);
-  lines_->setObjectName("lblInspection");
+  lines_->setObjectName("lblPickLines");
   lines_->setTextInteractionFlags(Qt::TextSelectableByMouse);
   lines_->setFont(QFont("monospace"));
   layout->addWidget(title_);
@@ -28,7 +28,7 @@ InspectorWindow::InspectorWindow(QWidget* parent) : QWidget(parent, Qt::Window) 
   resize(300, 260);
 }
 
-void InspectorWindow::Show(const Inspection& inspection) {
+void PickWindow::Show(const PickReport& inspection) {
   QString text;
   for (const auto& [label, value] : inspection.Lines) {
     if (!text.isEmpty()) text += '\n';
@@ -39,8 +39,8 @@ void InspectorWindow::Show(const Inspection& inspection) {
   if (lines_->text() != text) lines_->setText(text);
 }
 
-QString InspectorWindow::Text() const { return lines_->text(); }
+QString PickWindow::Text() const { return lines_->text(); }
 
-QString InspectorWindow::Title() const { return title_->text(); }
+QString PickWindow::Title() const { return title_->text(); }
 
 }  // namespace keldor

@@ -8,15 +8,15 @@ class QLabel;
 
 namespace keldor {
 
-struct Inspection;
+struct PickReport;
 
-class InspectorWindow : public QWidget {
+class PickWindow : public QWidget {
   Q_OBJECT
 
  public:
-  explicit InspectorWindow(QWidget* parent = nullptr);
+  explicit PickWindow(QWidget* parent = nullptr);
 
-  void Show(const Inspection& inspection);
+  void Show(const PickReport& inspection);
   // The lines shown, "Label: value" each.
   QString Text() const;
   QString Title() const;

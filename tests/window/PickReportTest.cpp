@@ -2,13 +2,13 @@
 #include <gtest/gtest.h>
 
 #include "support/TestWorld.h"
-#include "window/Inspection.h"
+#include "window/PickReport.h"
 
 namespace keldor {
 namespace {
 
-struct InspectionTest : ::testing::Test {
-  InspectionTest() {
+struct PickReportTest : ::testing::Test {
+  PickReportTest() {
     Nest& nest = world.Nests[0];
     for (int i = 0; i < nest.AntCount(); ++i) nest.Ants[i].Energy = 0;  // out of the way
     // Worker 1 lies from (10, 10) to (14, 10); the last worker from (30, 30) to (30, 34).
@@ -24,7 +24,7 @@ struct InspectionTest : ::testing::Test {
   const int last = world.Nests[0].AntCount() - 1;
 };
 
-TEST_F(InspectionTest, PicksTheNearestBodyWithinReachElseTheNestElseTheCell) {
+TEST_F(PickReportTest, PicksTheNearestBodyWithinReachElseTheNestElseTheCell) {
   const Nest& nest = world.Nests[0];
   const double size = world.Settings.CellSize;
   struct Case {
@@ -48,12 +48,12 @@ TEST_F(InspectionTest, PicksTheNearestBodyWithinReachElseTheNestElseTheCell) {
   EXPECT_EQ(PickAt(world, -1, 5, 1).What, Pick::Kind::None);  // left of the world
 }
 
-TEST_F(InspectionTest, AnAntIsFollowedAcrossRenumberingUntilItDies) {
+TEST_F(PickReportTest, AnAntIsFollowedAcrossRenumberingUntilItDies) {
   Nest& nest = world.Nests[0];
   const Pick pick = PickAt(world, 30, 32, 1);
   ASSERT_EQ(pick.What, Pick::Kind::Ant);
   nest.Ants.Remove(1);  // the picked ant, the last, moves into slot 1
-  const Inspection seen = Inspect(world, pick);
+  const PickReport seen = ReportPick(world, pick);
   EXPECT_EQ(seen.Title, "Ant");
   const std::vector<std::pair<std::string, std::string>> expected = {
       {"Nest", "NEST_0"},          {"Energy", "99.30"},         {"Load", "12.25"},
@@ -63,20 +63,20 @@ TEST_F(InspectionTest, AnAntIsFollowedAcrossRenumberingUntilItDies) {
   ASSERT_NE(LivingAnt(world, pick), nullptr);
   const_cast<Ant*>(LivingAnt(world, pick))->Energy = 0;
   EXPECT_EQ(LivingAnt(world, pick), nullptr);
-  EXPECT_EQ(Inspect(world, pick).Title, "Ant (dead)");
+  EXPECT_EQ(ReportPick(world, pick).Title, "Ant (dead)");
 }
 
-TEST_F(InspectionTest, NestAndCellLines) {
+TEST_F(PickReportTest, NestAndCellLines) {
   Nest& nest = world.Nests[0];
   nest.FoodStore = 2.5;
-  const Inspection ofNest = Inspect(world, {Pick::Kind::Nest, nest.Serial});
+  const PickReport ofNest = ReportPick(world, {Pick::Kind::Nest, nest.Serial});
   EXPECT_EQ(ofNest.Lines[1], (std::pair<std::string, std::string>{"Colour", "RGB(150, 100, 70)"}));  // the default ant colour
   EXPECT_EQ(ofNest.Lines[2].second, "2.50");
   EXPECT_EQ(ofNest.Lines[3].second, "2");  // the two placed workers live
   Cell& c = world.Cells(4, 5);
   c.Scent = -12.5;
   c.AntCount = 3;
-  const Inspection ofCell = Inspect(world, {Pick::Kind::Cell, 0, 4, 5});
+  const PickReport ofCell = ReportPick(world, {Pick::Kind::Cell, 0, 4, 5});
   EXPECT_EQ(ofCell.Title, "Cell (4, 5)");
   EXPECT_EQ(ofCell.Lines[0].second, "-12.50");
   EXPECT_EQ(ofCell.Lines[3].second, "3");
