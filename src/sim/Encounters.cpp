@@ -44,22 +44,14 @@ class NearbyEncounters {
   NearbyEncounters(World& world, const AntIndex& index)
       : world_(world),
         index_(index),
-        rivals_(world, index, HeadToBodyReach(world)),
+        living_(MeasureLivingAnts(world)),
+        rivals_(world, index, living_.Share / world.Settings.ScaleX + std::sqrt(living_.SquaredSpan)),
         firstTouch_(static_cast<size_t>(world.NestCount)) {
-    double longestSquaredSpan = 0;
     queenReach_.reserve(static_cast<size_t>(world.NestCount));
     for (int n = 0; n < world.NestCount; ++n) {
-      const Nest& nest = world.Nests[static_cast<size_t>(n)];
-      const Ant& queen = nest.Ants[0];
+      const Ant& queen = world.Nests[static_cast<size_t>(n)].Ants[0];
       queenReach_.push_back(ReachShare(queen, 0) / 2 / world.Settings.ScaleX + std::sqrt(SquaredSpan(queen)));
-      for (int a = 1; a < nest.AntCount(); ++a) {
-        const Ant& ant = nest.Ants[a];
-        if (!(ant.Energy > 0)) continue;
-        workerLength_ = std::max(workerLength_, ant.Length);
-        longestSquaredSpan = std::max(longestSquaredSpan, SquaredSpan(ant));
-      }
     }
-    workerSpan_ = std::sqrt(longestSquaredSpan);
   }
 
   bool MayMeetRival(int nest) const { return rivals_.MayMeetRival(nest); }
@@ -88,7 +80,7 @@ class NearbyEncounters {
         first = 0;
       }
     }
-    const double workerReach = biterShare + workerLength_ / WorkerReachDivisor / 2 / scaleX + workerSpan_;
+    const double workerReach = biterShare + living_.WorkerLength / WorkerReachDivisor / 2 / scaleX + living_.WorkerSpan;
     const double paddedReach = PaddedReach(workerReach, world_.Settings.CellSize);
     index_.ForEachNear(biter.HeadX, biter.HeadY, workerReach, [&](const IndexedAnt& near) {
       // A run lists its nest's ants in rising order: once past the first
@@ -122,28 +114,39 @@ class NearbyEncounters {
     return dx * dx + dy * dy;
   }
 
-  // How far from a biter's head, in world units, a living victim's head may
-  // lie: the largest touch reach plus the longest body.
-  static double HeadToBodyReach(const World& world) {
-    double share = 0;
-    double squaredSpan = 0;
+  // The extents of the living ants, in one pass: the largest touch-reach
+  // share and body of all of them, and the longest worker and worker body.
+  // A living victim's head lies within share / ScaleX + body of a biter's head.
+  struct LivingAnts {
+    double Share = 0;
+    double SquaredSpan = 0;
+    double WorkerLength = 0;
+    double WorkerSpan = 0;
+  };
+  static LivingAnts MeasureLivingAnts(const World& world) {
+    LivingAnts living;
+    double workerSquaredSpan = 0;
     for (int n = 0; n < world.NestCount; ++n) {
       const Nest& nest = world.Nests[static_cast<size_t>(n)];
       for (int a = 0; a < nest.AntCount(); ++a) {
         const Ant& ant = nest.Ants[a];
         if (!(ant.Energy > 0)) continue;
-        share = std::max(share, ReachShare(ant, a));
-        squaredSpan = std::max(squaredSpan, SquaredSpan(ant));
+        const double squaredSpan = SquaredSpan(ant);
+        living.Share = std::max(living.Share, ReachShare(ant, a));
+        living.SquaredSpan = std::max(living.SquaredSpan, squaredSpan);
+        if (a == 0) continue;
+        living.WorkerLength = std::max(living.WorkerLength, ant.Length);
+        workerSquaredSpan = std::max(workerSquaredSpan, squaredSpan);
       }
     }
-    return share / world.Settings.ScaleX + std::sqrt(squaredSpan);
+    living.WorkerSpan = std::sqrt(workerSquaredSpan);
+    return living;
   }
 
   World& world_;
   const AntIndex& index_;
+  LivingAnts living_;
   RivalNeighbourhood rivals_;
-  double workerLength_ = 0;
-  double workerSpan_ = 0;
   std::vector<double> queenReach_;  // per nest: the queen's share of a touch reach plus her span
   std::vector<int> firstTouch_;  // per nest: the first touched ant so far, Untouched or NotRival
 };
