@@ -7,10 +7,6 @@
 
 namespace keldor {
 
-bool CellHasObjectType(const World& world, std::string_view typeName, int x, int y) {
-  return CellHasObjectType(world.Cells(x, y), typeName);
-}
-
 bool IsNestCell(const World& world, int x, int y) {
   for (int i = 0; i < world.NestCount; ++i) {
     if (world.Nests[static_cast<size_t>(i)].CellX == x && world.Nests[static_cast<size_t>(i)].CellY == y) return true;

@@ -1,9 +1,8 @@
-// Small questions asked of the world: whether a cell holds an object of a type, whether a nest stands on a cell,
-// and how far an ant's head is from another ant's body. None changes anything.
+// Small questions asked of the world: whether a nest stands on a cell and how
+// far an ant's head is from another ant's body. None changes anything.
 #pragma once
 
 #include <cstdint>
-#include <string_view>
 
 #include "model/Numeric.h"
 #include "model/Records.h"
@@ -11,17 +10,6 @@
 namespace keldor {
 
 struct World;
-
-// True when the cell holds an object whose type name equals typeName exactly.
-inline bool CellHasObjectType(const Cell& cell, std::string_view typeName) {
-  for (const WallObject& object : cell.Objects) {
-    if (object.TypeName == typeName) return true;
-  }
-  return false;
-}
-
-// The same question for cell (x, y), which must lie in 0..GridX+1 by 0..GridY+1.
-bool CellHasObjectType(const World& world, std::string_view typeName, int x, int y);
 
 // True when any nest stands on cell (x, y).
 bool IsNestCell(const World& world, int x, int y);

@@ -11,46 +11,23 @@
 #include <string>
 #include <vector>
 
+#include "model/CellObjects.h"
 #include "model/Signature.h"
 #include "model/SlotList.h"
+#include "model/WallObject.h"
 
 namespace keldor {
 
-inline constexpr const char* PlasterBrickType = "PLASTER_BRICK";
-
-struct WorldPoint {
-  double X = 0;
-  double Y = 0;
-  bool operator==(const WorldPoint&) const = default;
-};
-
-struct WallShape {
-  double Colour = 0;
-  std::array<WorldPoint, 5> Points{};  // corners 0..3 of the cell; 4 unused
-  std::string Material;
-  bool operator==(const WallShape&) const = default;
-};
-
-// An object standing on a cell; the only kind is the plaster brick. The same
-// record is held by the world's wall list and by its cell's object list.
-struct WallObject {
-  std::string TypeName;
-  int16_t X = 0;
-  int16_t Y = 0;
-  int16_t ShapeCount = 0;
-  std::vector<WallShape> Shapes;  // slots 0..ShapeCount
-  bool operator==(const WallObject&) const = default;
-};
-
+// The fields an ant step reads come first, so that they share a cache line.
 struct Cell {
+  double Scent = 0;  // > 0 food scent, < 0 nest scent
+  keldor::Signature Signature;  // empty in a new world; "0000000000000000" once unmarked
+  int16_t AntCount = 0;
   int16_t X = 0;
   int16_t Y = 0;
-  keldor::Signature Signature;  // empty in a new world; "0000000000000000" once unmarked
+  CellObjects Objects;
   double Food = 0;
-  int16_t AntCount = 0;
-  double Scent = 0;  // > 0 food scent, < 0 nest scent
   double Colour = 0;
-  SlotList<WallObject> Objects;
   int16_t ObjectCount() const { return Objects.Count(); }
 };
 

@@ -8,9 +8,7 @@
 #include <vector>
 
 #include "model/CellGrid.h"
-#include "window/ControlState.h"
 #include "model/Records.h"
-#include "window/Viewport.h"
 #include "model/WorldSettings.h"
 
 namespace keldor {

@@ -26,7 +26,7 @@ double QueenTurn(RandomSource& random) {
   return sign * random.Rnd() * 60 * (Pi / 180);
 }
 
-bool IsBrick(const World& world, int x, int y) { return CellHasObjectType(world.Cells(x, y), PlasterBrickType); }
+bool IsBrick(const World& world, int x, int y) { return world.Cells(x, y).Objects.HasBrick(); }
 
 bool InGrid(const World& world, int x, int y) {
   return x >= 1 && x <= world.Settings.GridX && y >= 1 && y <= world.Settings.GridY;

@@ -48,23 +48,17 @@ FoodPile* AppendFoodPile(World& world, RandomSource& random, int16_t x, int16_t 
 
 bool AddWallAt(World& world, int16_t x, int16_t y) {
   Cell& cell = world.Cells(x, y);
-  if (!world.Walls.CanAppend() || !cell.Objects.CanAppend()) return false;
+  if (!world.Walls.CanAppend() || !cell.Objects.CanAdd()) return false;
   const WallObject wall = PlasterBrick(world, x, y);
   world.Walls.Append() = wall;
-  cell.Objects.Append() = wall;
+  cell.Objects.Add(wall);
   return true;
 }
 
 bool RemoveWallAt(World& world, int wallIndex, double x, double y) {
   const WallObject& wall = world.Walls[wallIndex];
   if (!(wall.X == x && wall.Y == y)) return false;
-  Cell& cell = world.Cells(wall.X, wall.Y);
-  for (int k = 0; k < cell.ObjectCount(); ++k) {
-    if (cell.Objects[k].TypeName == PlasterBrickType) {
-      cell.Objects.Remove(k);
-      break;
-    }
-  }
+  world.Cells(wall.X, wall.Y).Objects.RemoveBrick();
   world.Walls.Remove(wallIndex);
   return true;
 }

@@ -82,7 +82,7 @@ void FoodPileUpdate(World& world, RandomSource& random, AntIndex* index, const T
     }
     FoodPile& pile = world.FoodPiles[j];
     Cell& cell = world.Cells(pile.X, pile.Y);
-    const bool walled = CellHasObjectType(cell, PlasterBrickType);
+    const bool walled = cell.Objects.HasBrick();
     if (world.Running && !walled) FeedAnts(world, index, pile, cell);
     pile.Amount = cell.Food;
     if (pile.Amount == 0) {

@@ -29,7 +29,7 @@ void CellUpdate(World& world, TickPainter& painter) {
     Cell* column = world.Cells.Column(x);
     for (int y = 1; y <= gridY; ++y) {
       Cell& cell = column[y];
-      if (CellHasObjectType(cell, PlasterBrickType)) {
+      if (cell.Objects.HasBrick()) {
         cell.Scent = 0;
         cell.Signature = unmarked;
       }

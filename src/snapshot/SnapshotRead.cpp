@@ -180,7 +180,7 @@ class SnapshotReader {
       cell.AntCount = Count(c, "AntCount");
       cell.Scent = read_.Number(c, "Scent");
       cell.Colour = read_.Number(c, "Colour");
-      ReadWalls(cell.Objects, read_.Array(c, "Objects", Count(c, "ObjectCount")), "Objects");
+      ReadCellObjects(cell.Objects, read_.Array(c, "Objects", Count(c, "ObjectCount")));
     }
   }
 
@@ -280,6 +280,15 @@ class SnapshotReader {
     for (qsizetype i = 0; i < items.size() && !read_.Failed(); ++i) {
       const Scope scope(read_, key + ("[" + std::to_string(i) + "]"));
       ReadWall(read_.Element(items, i), walls[static_cast<int>(i)]);
+    }
+  }
+
+  void ReadCellObjects(CellObjects& objects, const QJsonArray& items) {
+    for (qsizetype i = 0; i < items.size() && !read_.Failed(); ++i) {
+      const Scope scope(read_, "Objects[" + std::to_string(i) + "]");
+      WallObject object;
+      ReadWall(read_.Element(items, i), object);
+      objects.Add(std::move(object));
     }
   }
 

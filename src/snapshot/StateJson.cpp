@@ -14,10 +14,10 @@ QString Text(const std::string& s) { return QString::fromStdString(s); }
 QString Text(const Signature& s) { return QString::fromStdString(s.ToString()); }
 
 // The live items 0..Count()-1 of a list, each through toJson.
-template <class T, class ToJson>
-QJsonArray LiveItems(const SlotList<T>& list, ToJson toJson) {
+template <class List, class ToJson>
+QJsonArray LiveItems(const List& list, ToJson toJson) {
   QJsonArray items;
-  for (const T& item : list) items.append(toJson(item));
+  for (const auto& item : list) items.append(toJson(item));
   return items;
 }
 

@@ -27,7 +27,7 @@ void EraseWallUnderPointer(World& world, const WindowState& window) {
 }
 
 bool CursorHasBrick(const World& world, const WindowState& window) {
-  return CellHasObjectType(world, PlasterBrickType, window.CursorCellX, window.CursorCellY);
+  return world.Cells(window.CursorCellX, window.CursorCellY).Objects.HasBrick();
 }
 
 }  // namespace

@@ -68,13 +68,25 @@ TEST(NumericTest, TextRules) {
   for (const auto& [value, pattern, text] : formats) EXPECT_EQ(Format(value, pattern), text) << value << pattern;
 }
 
-TEST(QueriesTest, ObjectTypeNestCellAndMinMax) {
+TEST(QueriesTest, BrickFlagNestCellAndMinMax) {
   World w;
   w.Cells.Reset(5, 5);
-  w.Cells(2, 3).Objects.Append().TypeName = PlasterBrickType;
-  EXPECT_TRUE(CellHasObjectType(w, "PLASTER_BRICK", 2, 3));
-  EXPECT_FALSE(CellHasObjectType(w, "plaster_brick", 2, 3));
-  EXPECT_FALSE(CellHasObjectType(w, "PLASTER_BRICK", 3, 2));
+  CellObjects& objects = w.Cells(2, 3).Objects;
+  const auto object = [](const char* type) {
+    WallObject o;
+    o.TypeName = type;
+    return o;
+  };
+  objects.Add(object("plaster_brick"));  // the type name is exact
+  EXPECT_FALSE(objects.HasBrick());
+  objects.Add(object("PLASTER_BRICK"));
+  objects.Add(object("PLASTER_BRICK"));
+  objects.RemoveBrick();
+  EXPECT_TRUE(objects.HasBrick());  // one of the two is left
+  objects.RemoveBrick();
+  EXPECT_FALSE(objects.HasBrick());
+  EXPECT_EQ(objects.Count(), 1);
+  EXPECT_FALSE(w.Cells(3, 2).Objects.HasBrick());
   EXPECT_FALSE(IsNestCell(w, 0, 0));  // no nests: nothing is a nest cell
   w.Nests.resize(3);
   w.NestCount = 3;

@@ -63,7 +63,11 @@ struct StepRig {
   void SetCross(int x, int y, const std::array<double, 5>& scents) {
     for (int k = 0; k < 5; ++k) CrossCell(x, y, k).Scent = scents[static_cast<size_t>(k)];
   }
-  void AddBrick(int x, int y) { cell(x, y).Objects.Append().TypeName = PlasterBrickType; }
+  void AddBrick(int x, int y) { {
+    WallObject brick;
+    brick.TypeName = PlasterBrickType;
+    cell(x, y).Objects.Add(brick);
+  } }
   void Step(int antIndex = 1) { StepAnt(world, random, 0, antIndex, world.Settings.NestScentMax); }
 };
 

@@ -311,11 +311,11 @@ class KeldorUiTest : public QObject {
   void leftDragPaintsWallsAndRightDragErasesThem() {
     World& w = StartWithTool(2);
     Drag(PixelOfCell(3, 4), PixelOfCell(7, 4), Qt::LeftButton);
-    for (int x = 3; x <= 7; ++x) QVERIFY2(CellHasObjectType(w, "PLASTER_BRICK", x, 4), qPrintable(QString::number(x)));
+    for (int x = 3; x <= 7; ++x) QVERIFY2(w.Cells(x, 4).Objects.HasBrick(), qPrintable(QString::number(x)));
     QCOMPARE(int(w.WallCount()), 5);
     Drag(PixelOfCell(4, 4), PixelOfCell(6, 4), Qt::RightButton);
     QCOMPARE(int(w.WallCount()), 2);
-    QVERIFY(CellHasObjectType(w, "PLASTER_BRICK", 3, 4) && CellHasObjectType(w, "PLASTER_BRICK", 7, 4));
+    QVERIFY(w.Cells(3, 4).Objects.HasBrick() && w.Cells(7, 4).Objects.HasBrick());
   }
 
   void heldFoodToolGrowsAPileWhilePaused() {

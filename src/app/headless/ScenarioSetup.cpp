@@ -27,7 +27,7 @@ std::optional<std::string> ApplyStep(World& world, WindowState& window, RandomSo
       if (!CreateNest(world, random, x, y)) return "no room for another nest of " + std::to_string(world.Settings.AntsPerNest) + " ants";
       return std::nullopt;
     case ScenarioKind::Wall:
-      if (CellHasObjectType(world, PlasterBrickType, x, y)) return std::nullopt;
+      if (world.Cells(x, y).Objects.HasBrick()) return std::nullopt;
       if (!AddWallAt(world, x, y)) return "no room for another wall";
       return std::nullopt;
     case ScenarioKind::Food: {

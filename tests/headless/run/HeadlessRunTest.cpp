@@ -72,7 +72,7 @@ TEST(ScenarioSetupTest, StepsApplyInOrderOnTheirCells) {
   EXPECT_EQ(w.Cells(6, 7).AntCount, 30);
   ASSERT_EQ(w.WallCount(), 2);
   EXPECT_EQ(w.Walls[1].X, 2);
-  EXPECT_TRUE(CellHasObjectType(w, PlasterBrickType, 2, 2));
+  EXPECT_TRUE(w.Cells(2, 2).Objects.HasBrick());
   EXPECT_EQ(w.Cells(2, 2).ObjectCount(), 1);
   ASSERT_EQ(w.FoodPileCount(), 1);
   EXPECT_EQ(w.FoodPiles[0].Amount, w.Settings.SpreadFoodAmount);
