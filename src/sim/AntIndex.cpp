@@ -4,14 +4,14 @@
 
 namespace keldor {
 
-AntIndex::AntIndex(const World& world)
-    : cellSize_(world.Settings.CellSize),
-      inverseCellSize_(1 / world.Settings.CellSize),
-      columns_(world.Settings.GridX + 2),
-      rows_(world.Settings.GridY + 2) {
+void AntIndex::Rebuild(const World& world) {
+  cellSize_ = world.Settings.CellSize;
+  inverseCellSize_ = 1 / world.Settings.CellSize;
+  columns_ = world.Settings.GridX + 2;
+  rows_ = world.Settings.GridY + 2;
   constexpr int dead = -1;
-  std::vector<int> slotOfAnt;  // every ant record in scan order, dead ones too
-  slotOfAnt.reserve(static_cast<size_t>(world.Settings.Population) + static_cast<size_t>(world.NestCount));
+  std::vector<int>& slotOfAnt = slotOfAnt_;
+  slotOfAnt.clear();
   cellStart_.assign(static_cast<size_t>(columns_) * static_cast<size_t>(rows_) + 1, 0);
   for (int n = 0; n < world.NestCount; ++n) {
     for (const Ant& ant : world.Nests[static_cast<size_t>(n)].Ants) {
@@ -28,7 +28,8 @@ AntIndex::AntIndex(const World& world)
   // last ant backwards moves it to the start of c and keeps scan order.
   for (size_t c = 1; c < cellStart_.size(); ++c) cellStart_[c] += cellStart_[c - 1];
   ants_.resize(static_cast<size_t>(cellStart_.back()));
-  std::vector<int> slotOfEntry(ants_.size());
+  std::vector<int>& slotOfEntry = slotOfEntry_;
+  slotOfEntry.resize(ants_.size());
   size_t k = slotOfAnt.size();
   for (int n = world.NestCount - 1; n >= 0; --n) {
     const Nest& nest = world.Nests[static_cast<size_t>(n)];

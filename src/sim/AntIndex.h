@@ -35,9 +35,13 @@ inline double PaddedReach(double reach, double cellSize) { return reach * (1 + 1
 
 class AntIndex {
  public:
-  // Buckets every living ant; valid while no ant moves, is born or is removed
-  // (an ant that dies meanwhile stays listed).
-  explicit AntIndex(const World& world);
+  AntIndex() = default;
+  explicit AntIndex(const World& world) { Rebuild(world); }
+
+  // Buckets every living ant, reusing the arrays of the last build; valid
+  // while no ant moves, is born or is removed (an ant that dies meanwhile
+  // stays listed).
+  void Rebuild(const World& world);
 
   // Calls visit(IndexedAnt) for every ant whose head may lie within reach
   // (world units) of (x, y): the ants of the block of cells around that disc,
@@ -86,12 +90,14 @@ class AntIndex {
     return static_cast<size_t>(x) * static_cast<size_t>(rows_) + static_cast<size_t>(y);
   }
 
-  double cellSize_;
-  double inverseCellSize_;
-  int columns_;
-  int rows_;
+  double cellSize_ = 1;
+  double inverseCellSize_ = 1;
+  int columns_ = 0;
+  int rows_ = 0;
   std::vector<int> cellStart_;  // ants of cell slot c: ants_[cellStart_[c] .. cellStart_[c + 1])
   std::vector<IndexedAnt> ants_;
+  std::vector<int> slotOfAnt_;    // while building: every ant record's slot in scan order, dead ones too
+  std::vector<int> slotOfEntry_;  // while building: the slot of each entry of ants_
   std::vector<AntRef> found_;
 };
 

@@ -8,8 +8,7 @@
 #include "model/Numeric.h"
 #include "model/Queries.h"
 #include "model/World.h"
-#include "sim/AntIndex.h"
-#include "sim/RivalNeighbourhood.h"
+#include "sim/NeighbourSearch.h"
 
 namespace keldor {
 namespace {
@@ -41,12 +40,13 @@ void Bite(World& world, Cell& cell, const Nest& nest, const Ant& biter, Ant& vic
 // queens, longer than any worker, are tested one per nest instead.
 class NearbyEncounters {
  public:
-  NearbyEncounters(World& world, const AntIndex& index)
+  NearbyEncounters(World& world, NeighbourSearch& search)
       : world_(world),
-        index_(index),
+        index_(search.Index),
         living_(MeasureLivingAnts(world)),
-        rivals_(world, index, living_.Share / world.Settings.ScaleX + std::sqrt(living_.SquaredSpan)),
+        rivals_(search.Rivals),
         firstTouch_(static_cast<size_t>(world.NestCount)) {
+    rivals_.Reset(world, index_, living_.Share / world.Settings.ScaleX + std::sqrt(living_.SquaredSpan));
     queenReach_.reserve(static_cast<size_t>(world.NestCount));
     for (int n = 0; n < world.NestCount; ++n) {
       const Ant& queen = world.Nests[static_cast<size_t>(n)].Ants[0];
@@ -146,7 +146,7 @@ class NearbyEncounters {
   World& world_;
   const AntIndex& index_;
   LivingAnts living_;
-  RivalNeighbourhood rivals_;
+  RivalNeighbourhood& rivals_;
   std::vector<double> queenReach_;  // per nest: the queen's share of a touch reach plus her span
   std::vector<int> firstTouch_;  // per nest: the first touched ant so far, Untouched or NotRival
 };
@@ -169,10 +169,10 @@ void ResolveEncounter(World& world, Cell& cell, int nestIndex, int antIndex) {
   }
 }
 
-void ResolveEncounters(World& world, AntIndex* index) {
+void ResolveEncounters(World& world, NeighbourSearch* search) {
   if (!world.Running) return;
   const int nestCount = world.NestCount;
-  if (index == nullptr) {
+  if (search == nullptr) {
     for (int n = 0; n < nestCount; ++n) {
       Nest& nest = world.Nests[static_cast<size_t>(n)];
       for (int i = 0; i < nest.AntCount(); ++i) {
@@ -182,7 +182,7 @@ void ResolveEncounters(World& world, AntIndex* index) {
     }
     return;
   }
-  NearbyEncounters encounters(world, *index);
+  NearbyEncounters encounters(world, *search);
   for (int n = 0; n < nestCount; ++n) {
     if (!encounters.MayMeetRival(n)) continue;
     Nest& nest = world.Nests[static_cast<size_t>(n)];

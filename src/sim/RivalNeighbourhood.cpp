@@ -11,10 +11,14 @@
 
 namespace keldor {
 
-RivalNeighbourhood::RivalNeighbourhood(const World& world, const AntIndex& index, double reach)
-    : world_(world), index_(index), reach_(PaddedReach(reach, index.CellSize())) {
+void RivalNeighbourhood::Reset(const World& world, const AntIndex& index, double reach) {
+  world_ = &world;
+  index_ = &index;
+  reach_ = PaddedReach(reach, index.CellSize());
+  cellsSummarised_ = false;
+  cellsOfReach_ = 0;
   std::unordered_map<std::string_view, int> colonyOf;
-  colonyOfNest_.reserve(static_cast<size_t>(world.NestCount));
+  colonyOfNest_.clear();
   for (int n = 0; n < world.NestCount; ++n) {
     const auto signature = world.Nests[static_cast<size_t>(n)].Signature.View();
     colonyOfNest_.push_back(colonyOf.try_emplace(signature, static_cast<int>(colonyOf.size())).first->second);
@@ -58,22 +62,22 @@ bool RivalNeighbourhood::MayHoldRival(size_t slot, int nest) {
 void RivalNeighbourhood::SummariseCells() {
   cellsSummarised_ = true;
   // One more cell than the reach spans: a head lies anywhere in its cell.
-  const double cellsOfReach = std::ceil(reach_ / index_.CellSize()) + 1;
+  const double cellsOfReach = std::ceil(reach_ / index_->CellSize()) + 1;
   if (colonies_ > MaxColonyBits || !(cellsOfReach <= MaxCellsOfReach)) return;
   cellsOfReach_ = static_cast<int>(cellsOfReach);
-  cellColonies_.assign(static_cast<size_t>(index_.Columns()) * static_cast<size_t>(index_.Rows()), 0);
+  cellColonies_.assign(static_cast<size_t>(index_->Columns()) * static_cast<size_t>(index_->Rows()), 0);
   nearColonies_.assign(cellColonies_.size(), 0);
-  for (int n = 0; n < world_.NestCount; ++n) {
+  for (int n = 0; n < world_->NestCount; ++n) {
     const uint64_t bit = uint64_t{1} << colonyOfNest_[static_cast<size_t>(n)];
-    for (const Ant& ant : world_.Nests[static_cast<size_t>(n)].Ants) {
-      if (ant.Energy > 0) cellColonies_[index_.CellSlotAt(ant.HeadX, ant.HeadY)] |= bit;
+    for (const Ant& ant : world_->Nests[static_cast<size_t>(n)].Ants) {
+      if (ant.Energy > 0) cellColonies_[index_->CellSlotAt(ant.HeadX, ant.HeadY)] |= bit;
     }
   }
 }
 
 uint64_t RivalNeighbourhood::NearbyColonies(size_t slot) const {
-  const int rows = index_.Rows();
-  const int columns = index_.Columns();
+  const int rows = index_->Rows();
+  const int columns = index_->Columns();
   const int x = static_cast<int>(slot / static_cast<size_t>(rows));
   const int y = static_cast<int>(slot % static_cast<size_t>(rows));
   const int y0 = std::max(0, y - cellsOfReach_);

@@ -19,9 +19,13 @@ class AntIndex;
 
 class RivalNeighbourhood {
  public:
+  RivalNeighbourhood() = default;
+  RivalNeighbourhood(const World& world, const AntIndex& index, double reach) { Reset(world, index, reach); }
+
+  // Summarises the world anew, reusing the arrays of the last summary.
   // reach: world units within which a head may touch another ant's body
   // (the largest touch reach plus the longest body).
-  RivalNeighbourhood(const World& world, const AntIndex& index, double reach);
+  void Reset(const World& world, const AntIndex& index, double reach);
 
   // False when no living ant of another colony comes within reach of any
   // living ant of nest n.
@@ -44,9 +48,9 @@ class RivalNeighbourhood {
   // The colonies of the slots within cellsOfReach_ of the slot, both ways.
   uint64_t NearbyColonies(size_t slot) const;
 
-  const World& world_;
-  const AntIndex& index_;
-  double reach_;
+  const World* world_ = nullptr;
+  const AntIndex* index_ = nullptr;
+  double reach_ = 0;
   int colonies_ = 0;
   std::vector<int> colonyOfNest_;
   std::vector<bool> isolated_;          // per colony

@@ -3,7 +3,6 @@
 #include "model/Numeric.h"
 #include "model/Random.h"
 #include "model/World.h"
-#include "sim/AntIndex.h"
 #include "sim/AntStep.h"
 #include "sim/Births.h"
 #include "sim/Editing.h"
@@ -69,12 +68,13 @@ bool RunTick(TickContext& context, TickPainter& painter, const TickInput& input)
   // removes bodies or nests: the pile pass then needs a fresh index. Ants
   // that die in upkeep may stay in it, since a dead ant takes no bite.
   if (world.Running && context.UseAntIndex) {
-    AntIndex index(world);
-    ResolveEncounters(world, &index);
+    NeighbourSearch& search = context.Search;
+    search.Index.Rebuild(world);
+    ResolveEncounters(world, &search);
     const int records = AntRecordCount(world);
     AntUpkeep(world);
-    if (AntRecordCount(world) != records) index = AntIndex(world);
-    FoodPileUpdate(world, random, &index, input);
+    if (AntRecordCount(world) != records) search.Index.Rebuild(world);
+    FoodPileUpdate(world, random, &search.Index, input);
   } else {
     ResolveEncounters(world, nullptr);
     AntUpkeep(world);

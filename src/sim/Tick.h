@@ -14,6 +14,7 @@
 //  14. the frame is shown
 #pragma once
 
+#include "sim/NeighbourSearch.h"
 #include "sim/TickInput.h"
 
 namespace keldor {
@@ -33,6 +34,7 @@ struct TickContext {
   bool UseAntIndex = true;
   // A tick is running: set and cleared by RunTick.
   bool InProgress = false;
+  NeighbourSearch Search{};  // the indexes' arrays, kept from one tick to the next
 };
 
 // Runs one tick with what the window hands it, drawing on `painter` (the

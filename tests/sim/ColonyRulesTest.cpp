@@ -6,7 +6,7 @@
 #include <tuple>
 
 #include "RuleWorld.h"
-#include "sim/AntIndex.h"
+#include "sim/NeighbourSearch.h"
 #include "sim/Births.h"
 #include "sim/Encounters.h"
 #include "sim/Upkeep.h"
@@ -133,8 +133,9 @@ TEST(Encounters, AnUnloadedAntInACrowdBitesTheFirstLivingAntOfEachRivalColony) {
       world.Running = !c.paused;
       if (c.allied) scene.nest(2).Signature = scene.nest(0).Signature;
       scene.nest(0).Ants[1].Load = c.carrying ? 1 : 0;
-      AntIndex index(world);
-      ResolveEncounters(world, indexed ? &index : nullptr);
+      NeighbourSearch search;
+      search.Index.Rebuild(world);
+      ResolveEncounters(world, indexed ? &search : nullptr);
       const bool bites = c.crowd >= 3 && !c.carrying && !c.paused;
       const Nest& rival = scene.nest(1);
       EXPECT_EQ(world.Cells(4, 4).Scent, c.scentAfter) << c.scent << " " << c.trace << " " << indexed;
