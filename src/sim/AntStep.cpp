@@ -147,9 +147,9 @@ bool MayStepForward(const World& world, int16_t nestTrace, const Nest& nest, con
 void StepQueen(World& world, RandomSource& random, int nestIndex) {
   Nest& nest = world.Nests[static_cast<size_t>(nestIndex)];
   Ant& queen = nest.Ants[0];
-  const double cellSize = world.Settings.CellSize;
-  const int cx = CellOfCoordinate(queen.RearX, cellSize);
-  const int cy = CellOfCoordinate(queen.RearY, cellSize);
+  const CellFinder cellOf(world.Settings.CellSize);
+  const int cx = cellOf(queen.RearX);
+  const int cy = cellOf(queen.RearY);
   queen.CellX = static_cast<int16_t>(cx);
   queen.CellY = static_cast<int16_t>(cy);
   queen.Angle = IsBrick(world, cx, cy) ? 0 : QueenTurn(random);
@@ -209,9 +209,9 @@ void StepForward(World& world, RandomSource& random, int nestIndex, int antIndex
 void BackOff(World& world, RandomSource& random, int nestIndex, int antIndex, const WorkerStep& step,
              const Ant& before, int16_t nestTrace) {
   Ant& ant = world.Nests[static_cast<size_t>(nestIndex)].Ants[antIndex];
-  const double cellSize = world.Settings.CellSize;
-  const int bx = CellOfCoordinate(ant.HeadX - step.DX, cellSize);
-  const int by = CellOfCoordinate(ant.HeadY - step.DY, cellSize);
+  const CellFinder cellOf(world.Settings.CellSize);
+  const int bx = cellOf(ant.HeadX - step.DX);
+  const int by = cellOf(ant.HeadY - step.DY);
   if (InGrid(world, bx, by) && !IsBrick(world, bx, by)) {
     if (bx != step.CurrentX || by != step.CurrentY) MoveAntCount(world, step.CurrentX, step.CurrentY, bx, by);
     LayScentTrail(world, random, nestIndex, antIndex, step.CurrentX, step.CurrentY, bx, by, nestTrace);
@@ -233,19 +233,19 @@ void StepWorker(World& world, RandomSource& random, int nestIndex, int antIndex,
                 int16_t nestTrace) {
   Nest& nest = world.Nests[static_cast<size_t>(nestIndex)];
   Ant& ant = nest.Ants[antIndex];
-  const double cellSize = world.Settings.CellSize;
+  const CellFinder cellOf(world.Settings.CellSize);
   const Ant before = ant;
   WorkerStep step{};
-  step.CurrentX = CellOfCoordinate(ant.HeadX, cellSize);
-  step.CurrentY = CellOfCoordinate(ant.HeadY, cellSize);
+  step.CurrentX = cellOf(ant.HeadX);
+  step.CurrentY = cellOf(ant.HeadY);
   ant.CellX = static_cast<int16_t>(step.CurrentX);
   ant.CellY = static_cast<int16_t>(step.CurrentY);
   Turn(ant, ant.RearX + (ant.HeadX - ant.RearX) / stepDivisor,
        ant.RearY + (ant.HeadY - ant.RearY) / stepDivisor);
   step.DX = (ant.HeadX - ant.RearX) / stepDivisor;
   step.DY = (ant.HeadY - ant.RearY) / stepDivisor;
-  step.TargetX = CellOfCoordinate(ant.HeadX + step.DX, cellSize);
-  step.TargetY = CellOfCoordinate(ant.HeadY + step.DY, cellSize);
+  step.TargetX = cellOf(ant.HeadX + step.DX);
+  step.TargetY = cellOf(ant.HeadY + step.DY);
 
   if (MayStepForward(world, nestTrace, nest, ant, step.CurrentX, step.CurrentY, step.TargetX, step.TargetY)) {
     StepForward(world, random, nestIndex, antIndex, step, nestTrace);

@@ -117,5 +117,28 @@ TEST(QueriesTest, PointToSegmentDistance) {
   }
 }
 
+
+TEST(QueriesTest, CellFinderMatchesTheDivisionOnAndNearCellBorders) {
+  const struct {
+    double cellSize, v;
+    int cell;
+  } cases[] = {{100, 0, 1},      {100, 99.99999999999999, 1}, {100, 100, 2}, {100, -1e-300, 0},
+               {100, -100, 0},   {100, -100.00000000000001, -1},  // floor(-1.0000000000000002) = -2
+               {0.3, 0.6, 3},    // 0.6 / 0.3 is exactly 2, though 0.6 * (1 / 0.3) is not
+               {100, 1e12, 32767}};
+  for (const auto& c : cases) EXPECT_EQ(CellFinder(c.cellSize)(c.v), c.cell) << c.cellSize << " " << c.v;
+  // Coordinates a few units in the last place either side of every border.
+  for (const double size : {10.0, 100.0, 0.3, 7.0 / 3}) {
+    const CellFinder cellOf(size);
+    for (int k = -300; k <= 300; ++k) {
+      double v = k * size;
+      for (int step = 0; step < 4; ++step) v = std::nextafter(v, -1e9);
+      for (int step = 0; step < 8; ++step, v = std::nextafter(v, 1e9)) {
+        ASSERT_EQ(cellOf(v), CellOfCoordinate(v, size)) << size << " " << k << " " << step;
+      }
+    }
+  }
+}
+
 }  // namespace
 }  // namespace keldor
