@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "model/Colour.h"
 #include "model/Signature.h"
 #include "model/SlotList.h"
 
@@ -25,7 +26,7 @@ struct WorldPoint {
 };
 
 struct WallShape {
-  double Colour = 0;
+  keldor::Colour Colour{};
   std::array<WorldPoint, 5> Points{};  // corners 0..3 of the cell; 4 unused
   std::string Material;
   bool operator==(const WallShape&) const = default;
@@ -49,7 +50,7 @@ struct Cell {
   double Food = 0;
   int16_t AntCount = 0;
   double Scent = 0;  // > 0 food scent, < 0 nest scent
-  double Colour = 0;
+  keldor::Colour Colour{};
   SlotList<WallObject> Objects;
   int16_t ObjectCount() const { return Objects.Count(); }
 };
@@ -68,7 +69,7 @@ struct Ant {
   double Load = 0;
   double LifeFactor = 0;
   double Energy = 0;  // alive while > 0
-  double Colour = 0;
+  keldor::Colour Colour{};
   bool operator==(const Ant&) const = default;
 };
 
@@ -85,7 +86,7 @@ struct Nest {
   double AntBodyArea = 0;
   double AntUnit = 0;  // bite, energy and birth unit
   SlotList<Ant> Ants;  // Ants[0] is the queen
-  double Colour = 0;
+  keldor::Colour Colour{};
   double FoodStore = 0;
   int16_t LifeSpan = 0;
   // Ant records held, queen and unremoved dead included.
