@@ -51,11 +51,6 @@ inline int16_t ClampToInt16(int64_t v) {
 // when the result would leave -32768..32767: a count never wraps.
 bool TryAddInt16(int16_t& count, int delta);
 
-// RGB colour as red + 256 green + 65536 blue, held in a double.
-inline double Rgb(int red, int green, int blue) {
-  return static_cast<double>(red) + 256.0 * green + 65536.0 * blue;
-}
-
 // True when the text reads as a decimal number: optional surrounding spaces,
 // an optional sign, digits with at most one decimal point, at least one digit.
 bool IsNumeric(std::string_view text);

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "model/CellObjects.h"
+#include "model/Colour.h"
 #include "model/Signature.h"
 #include "model/SlotList.h"
 #include "model/WallObject.h"
@@ -27,7 +28,7 @@ struct Cell {
   int16_t Y = 0;
   CellObjects Objects;
   double Food = 0;
-  double Colour = 0;
+  keldor::Colour Colour{};
   int16_t ObjectCount() const { return Objects.Count(); }
 };
 
@@ -45,7 +46,7 @@ struct Ant {
   double Load = 0;
   double LifeFactor = 0;
   double Energy = 0;  // alive while > 0
-  double Colour = 0;
+  keldor::Colour Colour{};
   bool operator==(const Ant&) const = default;
 };
 
@@ -62,7 +63,7 @@ struct Nest {
   double AntBodyArea = 0;
   double AntUnit = 0;  // bite, energy and birth unit
   SlotList<Ant> Ants;  // Ants[0] is the queen
-  double Colour = 0;
+  keldor::Colour Colour{};
   double FoodStore = 0;
   int16_t LifeSpan = 0;
   // Ant records held, queen and unremoved dead included.

@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "model/Colour.h"
+
 namespace keldor {
 
 inline constexpr const char* PlasterBrickType = "PLASTER_BRICK";
@@ -18,7 +20,7 @@ struct WorldPoint {
 };
 
 struct WallShape {
-  double Colour = 0;
+  keldor::Colour Colour{};
   std::array<WorldPoint, 5> Points{};  // corners 0..3 of the cell; 4 unused
   std::string Material;
   bool operator==(const WallShape&) const = default;

@@ -201,7 +201,7 @@ void LoadDefaults(WorldSettings& s) {
   s.AntGreen = 100;
   s.AntBlue = 70;
   s.LifeSpan = 100;
-  s.AntColour = Rgb(s.AntRed, s.AntGreen, s.AntBlue);
+  s.AntColour = Colour(s.AntRed, s.AntGreen, s.AntBlue);
   s.FoodRate = 2;
   s.FoodScentMax = ClampToInt16(CInt(StartUpTraceSliderMax / 2.0));
   s.NestScentMax = ClampToInt16(CInt(s.FoodScentMax / 2.0));

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 
+#include "model/Colour.h"
 #include "model/Numeric.h"
 
 namespace keldor {
@@ -21,7 +22,7 @@ struct WorldSettings {
   int16_t AntRed = 0;
   int16_t AntGreen = 0;
   int16_t AntBlue = 0;
-  double AntColour = 0;
+  Colour AntColour{};
   int16_t LifeSpan = 0;
   int16_t FoodRate = 0;  // percent chance that a free cell gets food at New
   int16_t FoodScentMax = 0;

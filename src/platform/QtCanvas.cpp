@@ -9,12 +9,14 @@
 #include <emmintrin.h>
 #endif
 
+#include "platform/QtColour.h"
+#include "render/ViewColours.h"
 
 namespace keldor {
 
 namespace {
 
-const QRgb Background = qRgb(185, 172, 145);
+constexpr QRgb Background = ToQRgb(ViewBackground);
 
 // Sets count pixels to value, four at a time where the processor allows.
 void FillRow(uint32_t* row, int count, uint32_t value) {
@@ -41,12 +43,6 @@ void QtCanvas::Resize(int width, int height) {
   image_.fill(Background);
   TakeBuffer();
   SetScale({scale_.Left, scale_.Top, width * TwipsPerPixel, height * TwipsPerPixel});
-}
-
-QRgb QtCanvas::ToQRgb(double colour) {
-  const auto value = static_cast<uint32_t>(static_cast<int64_t>(colour) & 0xffffff);
-  return qRgb(static_cast<int>(value & 0xff), static_cast<int>((value >> 8) & 0xff),
-              static_cast<int>((value >> 16) & 0xff));
 }
 
 void QtCanvas::SetScale(const ViewScale& scale) {
@@ -84,7 +80,7 @@ void QtCanvas::FillPixels(int left, int top, int right, int bottom, QRgb colour)
   }
 }
 
-void QtCanvas::Box(double x1, double y1, double x2, double y2, double colour) {
+void QtCanvas::Box(double x1, double y1, double x2, double y2, Colour colour) {
   const int left = ToPixelIndex(std::min(PixelX(x1), PixelX(x2)));
   const int right = ToPixelIndex(std::max(PixelX(x1), PixelX(x2)));
   const int top = ToPixelIndex(std::min(PixelY(y1), PixelY(y2)));
@@ -112,7 +108,7 @@ void QtCanvas::Box(double x1, double y1, double x2, double y2, double colour) {
   }
 }
 
-void QtCanvas::Line(double x1, double y1, double x2, double y2, double colour) {
+void QtCanvas::Line(double x1, double y1, double x2, double y2, Colour colour) {
   const QRgb rgb = ToQRgb(colour);
   const double px1 = PixelX(x1), py1 = PixelY(y1), px2 = PixelX(x2), py2 = PixelY(y2);
   const int width = LineWidthPixels() - 1;
@@ -137,7 +133,7 @@ void QtCanvas::PaintSlantedLine(double x1, double y1, double x2, double y2, QRgb
   TakeBuffer();
 }
 
-void QtCanvas::Circle(double x, double y, double radius, double colour) {
+void QtCanvas::Circle(double x, double y, double radius, Colour colour) {
   const double cx = PixelX(x);
   const double cy = PixelY(y);
   const double r = std::abs(radius) * pixelsPerUnitX_;
@@ -160,7 +156,7 @@ void QtCanvas::PaintLargeCircle(double cx, double cy, double radius, QRgb outlin
   // box covers coordinate i, which QPainter places at the pixel's centre.
   QPainter painter(&image_);
   painter.setPen(QPen(QColor(outline), LineWidthPixels()));
-  painter.setBrush(Pen.Fill == FillStyle::Solid ? QBrush(QColor(ToQRgb(Pen.FillColor))) : Qt::NoBrush);
+  painter.setBrush(Pen.Fill == FillStyle::Solid ? QBrush(ToQColor(Pen.FillColor)) : Qt::NoBrush);
   painter.drawEllipse(QPointF(cx + 0.5, cy + 0.5), radius, radius);
   painter.end();
   TakeBuffer();

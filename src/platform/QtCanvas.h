@@ -30,9 +30,9 @@ class QtCanvas : public Canvas {
 
   void SetScale(const ViewScale& scale) override;
   void Cls() override;
-  void Line(double x1, double y1, double x2, double y2, double colour) override;
-  void Box(double x1, double y1, double x2, double y2, double colour) override;
-  void Circle(double x, double y, double radius, double colour) override;
+  void Line(double x1, double y1, double x2, double y2, Colour colour) override;
+  void Box(double x1, double y1, double x2, double y2, Colour colour) override;
+  void Circle(double x, double y, double radius, Colour colour) override;
   void Print(std::string_view text) override;
 
   // The drawn frame, in device pixels.
@@ -40,8 +40,6 @@ class QtCanvas : public Canvas {
   double DevicePixelRatio() const { return devicePixelRatio_; }
   // New size in logical pixels; the image is cleared to the background.
   void Resize(int width, int height);
-
-  static QRgb ToQRgb(double colour);
 
  private:
   double PixelX(double x) const { return (x - scale_.Left) * pixelsPerUnitX_; }

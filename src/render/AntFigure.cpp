@@ -47,7 +47,7 @@ void DrawOnTerrain(const World& world, const ViewState& view, const Nest& nest, 
   const Point h{ant.HeadX, ant.HeadY};
   const Point r{ant.RearX, ant.RearY};
   const Point body{h.X - r.X, h.Y - r.Y};  // rear to head
-  auto circle = [&](const FigureCircle& c, double outline) {
+  auto circle = [&](const FigureCircle& c, Colour outline) {
     terrain.Circle(c.Centre.X * zx, c.Centre.Y * zy, c.Radius * radiusScale, outline);
   };
 

@@ -11,7 +11,7 @@ struct World;
 struct ViewState;
 struct Ant;
 
-inline constexpr double PickMarkerColour = 0xFF00FF;  // magenta
+inline constexpr Colour PickMarkerColour{255, 0, 255};  // magenta
 
 void DrawPickMarker(const World& world, const ViewState& view, const Ant& ant, Canvas& terrain);
 

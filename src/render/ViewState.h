@@ -45,7 +45,7 @@ struct ViewState {
   float MouseX = 0;  // last pointer position over the terrain view, terrain units
   float MouseY = 0;
   Tool CurrentTool = NoTool;
-  double ToolColour = 0;
+  Colour ToolColour{};
 };
 
 // True when (x, y) lies strictly inside the scale rectangle, every value

@@ -295,7 +295,7 @@ ScentLookup FoodwardCell(const World& world, int x, int y) {
 }
 
 void BlendSignature(RandomSource& random, int antIndex, const Nest& source, Cell& target, int length) {
-  target.Colour = Rgb(255, 255, 255);
+  target.Colour = Colour(255, 255, 255);
   if (!(source.Ants[antIndex].Energy > 0) || target.Signature == source.Signature) return;
   if (target.Signature == Signature::Unmarked()) {
     target.Signature = source.Signature;

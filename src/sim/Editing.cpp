@@ -18,7 +18,7 @@ WallObject PlasterBrick(const World& world, int16_t x, int16_t y) {
   wall.ShapeCount = 1;
   wall.Shapes.resize(2);
   WallShape& shape = wall.Shapes[0];
-  shape.Colour = Rgb(235, 235, 235);
+  shape.Colour = Colour(235, 235, 235);
   shape.Material = "CaSO4";
   shape.Points[0] = {(x - 1) * size, (y - 1) * size};
   shape.Points[1] = {(x - 1) * size, y * size};

@@ -30,7 +30,7 @@ bool Touches(const World& world, const Ant& biter, int biterIndex, const Ant& vi
 void Bite(World& world, Cell& cell, const Nest& nest, const Ant& biter, Ant& victim) {
   if (biter.Load != 0) return;
   cell.Scent = Max(1, Min(cell.Scent + 1, world.Settings.FoodTraceSetting));
-  victim.Colour = Rgb(255, 0, 0);
+  victim.Colour = Colour(255, 0, 0);
   victim.Energy = Max(1, victim.Energy - nest.AntUnit);
 }
 

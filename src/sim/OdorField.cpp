@@ -7,13 +7,13 @@
 
 namespace keldor {
 
-double ScentColour(double scent, double foodScentMax, double nestScentMax) {
+Colour ScentColour(double scent, double foodScentMax, double nestScentMax) {
   if (scent > 0) {
     const double f = scent / foodScentMax;
-    return Rgb(CInt(185 - 69 * f), CInt(200 - 32 * f), CInt(145 - 29 * f));
+    return Colour(CInt(185 - 69 * f), CInt(200 - 32 * f), CInt(145 - 29 * f));
   }
   const double n = scent / nestScentMax;
-  return Rgb(CInt(200 + 61 * n), CInt(172 + 43 * n), CInt(145 + 42 * n));
+  return Colour(CInt(200 + 61 * n), CInt(172 + 43 * n), CInt(145 + 42 * n));
 }
 
 void CellUpdate(World& world, TickPainter& painter) {

@@ -64,6 +64,10 @@ class SnapshotReader {
     return v;
   }
 
+  Colour ColourOf(const QJsonObject& json, const char* key) {
+    return Colour::FromPacked(static_cast<uint32_t>(read_.Integer(json, key, 0, Colour::MaxPacked)));
+  }
+
   Signature SignatureOf(const QJsonObject& json, const char* key) {
     const std::string text = read_.Text(json, key);
     if (read_.Failed()) return {};
@@ -89,7 +93,7 @@ class SnapshotReader {
     s.AntRed = read_.Int16(json, "AntRed");
     s.AntGreen = read_.Int16(json, "AntGreen");
     s.AntBlue = read_.Int16(json, "AntBlue");
-    s.AntColour = read_.Number(json, "AntColour");
+    s.AntColour = ColourOf(json, "AntColour");
     s.LifeSpan = read_.Int16(json, "LifeSpan");
     s.FoodRate = read_.Int16(json, "FoodRate");
     s.FoodScentMax = read_.Int16(json, "FoodScentMax");
@@ -97,7 +101,7 @@ class SnapshotReader {
     s.FoodTraceSetting = read_.Int16(json, "FoodTraceSetting");
     s.NestTraceSetting = read_.Int16(json, "NestTraceSetting");
     window_.View.CurrentTool = static_cast<Tool>(read_.Int16(json, "CurrentTool", NoTool, NestTool));
-    window_.View.ToolColour = read_.Number(json, "ToolColour");
+    window_.View.ToolColour = ColourOf(json, "ToolColour");
   }
 
   void ReadWindowState(const QJsonObject& json) {
@@ -179,7 +183,7 @@ class SnapshotReader {
       cell.Food = read_.Number(c, "Food");
       cell.AntCount = Count(c, "AntCount");
       cell.Scent = read_.Number(c, "Scent");
-      cell.Colour = read_.Number(c, "Colour");
+      cell.Colour = ColourOf(c, "Colour");
       ReadCellObjects(cell.Objects, read_.Array(c, "Objects", Count(c, "ObjectCount")));
     }
   }
@@ -196,7 +200,7 @@ class SnapshotReader {
     a.Load = read_.Number(json, "Load");
     a.LifeFactor = read_.Number(json, "LifeFactor");
     a.Energy = read_.Number(json, "Energy");
-    a.Colour = read_.Number(json, "Colour");
+    a.Colour = ColourOf(json, "Colour");
   }
 
   void ReadNest(const QJsonObject& json, Nest& n) {
@@ -209,7 +213,7 @@ class SnapshotReader {
     n.AntLength = read_.Number(json, "AntLength");
     n.AntBodyArea = read_.Number(json, "AntBodyArea");
     n.AntUnit = read_.Number(json, "AntUnit");
-    n.Colour = read_.Number(json, "Colour");
+    n.Colour = ColourOf(json, "Colour");
     n.FoodStore = read_.Number(json, "FoodStore");
     n.LifeSpan = read_.Int16(json, "LifeSpan");
     const int16_t antCount = Count(json, "AntCount");
@@ -252,7 +256,7 @@ class SnapshotReader {
   WorldPoint ReadPoint(const QJsonObject& json) { return {read_.Number(json, "X"), read_.Number(json, "Y")}; }
 
   void ReadShape(const QJsonObject& json, WallShape& shape) {
-    shape.Colour = read_.Number(json, "Colour");
+    shape.Colour = ColourOf(json, "Colour");
     shape.Material = read_.Text(json, "Material");
     const QJsonArray points = read_.Array(json, "Points", static_cast<int64_t>(shape.Points.size()));
     for (qsizetype i = 0; i < points.size() && !read_.Failed(); ++i) {

@@ -13,6 +13,9 @@ namespace {
 QString Text(const std::string& s) { return QString::fromStdString(s); }
 QString Text(const Signature& s) { return QString::fromStdString(s.ToString()); }
 
+// The packed number, written as a whole number.
+QJsonValue ColourJson(Colour c) { return static_cast<qint64>(c.Packed()); }
+
 // The live items 0..Count()-1 of a list, each through toJson.
 template <class List, class ToJson>
 QJsonArray LiveItems(const List& list, ToJson toJson) {
@@ -26,7 +29,7 @@ QJsonObject PointJson(const WorldPoint& p) { return {{"X", p.X}, {"Y", p.Y}}; }
 QJsonObject ShapeJson(const WallShape& shape) {
   QJsonArray points;
   for (const WorldPoint& p : shape.Points) points.append(PointJson(p));
-  return {{"Colour", shape.Colour}, {"Points", points}, {"Material", Text(shape.Material)}};
+  return {{"Colour", ColourJson(shape.Colour)}, {"Points", points}, {"Material", Text(shape.Material)}};
 }
 
 QJsonObject WallJson(const WallObject& wall) {
@@ -46,7 +49,7 @@ QJsonObject CellJson(const Cell& c) {
           {"Food", c.Food},
           {"AntCount", c.AntCount},
           {"Scent", c.Scent},
-          {"Colour", c.Colour},
+          {"Colour", ColourJson(c.Colour)},
           {"ObjectCount", c.ObjectCount()},
           {"Objects", LiveItems(c.Objects, WallJson)}};
 }
@@ -55,7 +58,7 @@ QJsonObject AntJson(const Ant& a) {
   return {{"RearX", a.RearX},   {"RearY", a.RearY}, {"HeadX", a.HeadX},   {"HeadY", a.HeadY},
           {"CellX", a.CellX},   {"CellY", a.CellY}, {"Angle", a.Angle},   {"Length", a.Length},
           {"Load", a.Load},     {"LifeFactor", a.LifeFactor},             {"Energy", a.Energy},
-          {"Colour", a.Colour}};
+          {"Colour", ColourJson(a.Colour)}};
 }
 
 QJsonObject NestJson(const Nest& n) {
@@ -71,7 +74,7 @@ QJsonObject NestJson(const Nest& n) {
           {"AntBodyArea", n.AntBodyArea},
           {"AntUnit", n.AntUnit},
           {"Ants", LiveItems(n.Ants, AntJson)},
-          {"Colour", n.Colour},
+          {"Colour", ColourJson(n.Colour)},
           {"FoodStore", n.FoodStore},
           {"LifeSpan", n.LifeSpan},
           // A birth reuses the spare slot and keeps the fields it does not write.
@@ -98,7 +101,7 @@ void AddSettings(QJsonObject& json, const World& world, const WindowState& windo
   json.insert("AntRed", s.AntRed);
   json.insert("AntGreen", s.AntGreen);
   json.insert("AntBlue", s.AntBlue);
-  json.insert("AntColour", s.AntColour);
+  json.insert("AntColour", ColourJson(s.AntColour));
   json.insert("LifeSpan", s.LifeSpan);
   json.insert("FoodRate", s.FoodRate);
   json.insert("FoodScentMax", s.FoodScentMax);
@@ -106,7 +109,7 @@ void AddSettings(QJsonObject& json, const World& world, const WindowState& windo
   json.insert("FoodTraceSetting", s.FoodTraceSetting);
   json.insert("NestTraceSetting", s.NestTraceSetting);
   json.insert("CurrentTool", static_cast<int16_t>(window.View.CurrentTool));
-  json.insert("ToolColour", window.View.ToolColour);
+  json.insert("ToolColour", ColourJson(window.View.ToolColour));
 }
 
 void AddWindowState(QJsonObject& json, const World& world, const WindowState& window) {

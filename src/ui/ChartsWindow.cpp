@@ -13,16 +13,12 @@
 #include <algorithm>
 #include <sstream>
 
+#include "platform/QtColour.h"
 #include "window/RunChart.h"
 
 namespace keldor {
 
 namespace {
-
-QColor ColourOf(double rgb) {
-  const long v = static_cast<long>(rgb);
-  return QColor(v & 0xFF, (v >> 8) & 0xFF, (v >> 16) & 0xFF);
-}
 
 // Food stored, carried and on the map.
 const QColor FoodColours[] = {QColor(160, 90, 20), QColor(40, 110, 200), QColor(16, 152, 16)};
@@ -116,7 +112,7 @@ void ChartsWindow::Refresh() {
   }
   for (size_t i = population_.Lines.size(); i < colonies.size(); ++i) {
     QLineSeries* line = AddLine(population_, QString::fromStdString(colonies[i].Name));
-    line->setColor(ColourOf(colonies[i].Colour));
+    line->setColor(ToQColor(colonies[i].Colour));
   }
   double xMax = 1;
   double populationMax = 1;

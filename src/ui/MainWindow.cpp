@@ -17,6 +17,7 @@
 #include "window/MessageBox.h"
 #include "window/OptionsForm.h"
 #include "window/Viewport.h"
+#include "platform/QtColour.h"
 #include "platform/QtProgramStarter.h"
 #include "platform/SystemRegistry.h"
 #include "window/TerrainTools.h"
@@ -41,11 +42,6 @@ constexpr double InitialWidth = 10200;
 constexpr double InitialHeight = 8400;
 
 enum MouseKind { Press, Move, Release };
-
-QString CssColour(double rgb) {
-  const long v = static_cast<long>(rgb);
-  return QColor(v & 0xFF, (v >> 8) & 0xFF, (v >> 16) & 0xFF).name();
-}
 
 void SetToolTip(QWidget* widget, const std::string& text) {
   const QString tip = QString::fromStdString(text);
@@ -427,7 +423,7 @@ void MainWindow::ShowControls() {
   mnuInfo_->setChecked(window_.View.InfoVisible);
   const bool shown[2] = {c.ButtonBarVisible, window_.View.InfoVisible};
   for (int i = 0; i < 2; ++i) {
-    const QString css = "background-color: " + CssColour(QuickButtonColour(shown[i])) + "; border: 1px solid gray;";
+    const QString css = "background-color: " + ToQColor(QuickButtonColour(shown[i])).name() + "; border: 1px solid gray;";
     if (btnQuick_[i]->styleSheet() != css) btnQuick_[i]->setStyleSheet(css);
   }
   const QString population = QString::fromStdString(c.PopulationCaption);

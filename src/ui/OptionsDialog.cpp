@@ -10,14 +10,11 @@
 #include <QSlider>
 #include <QVBoxLayout>
 
+#include "platform/QtColour.h"
+
 namespace keldor {
 
 namespace {
-
-QColor ToQColor(double rgb) {
-  const long v = static_cast<long>(rgb);
-  return QColor(v & 0xFF, (v >> 8) & 0xFF, (v >> 16) & 0xFF);
-}
 
 // A slider with its two end labels: minimum at the left (or bottom).
 QWidget* WithEndLabels(QSlider* slider, const char* minText, const char* maxText) {

@@ -73,11 +73,11 @@ void OptionsForm::ColourTyped(ColourBox box, const std::string& text) {
   std::string& changed = colour_[static_cast<int>(box)];
   changed = text;
   if (!(IsNumeric(colour_[0]) && IsNumeric(colour_[1]) && IsNumeric(colour_[2]))) {
-    s.AntColour = Rgb(150, 100, 70);
+    s.AntColour = Colour(150, 100, 70);
     return;
   }
   changed = CStr(ColourComponent(changed));
-  preview_ = Rgb(CInt(ToNumber(colour_[0])), CInt(ToNumber(colour_[1])), CInt(ToNumber(colour_[2])));
+  preview_ = Colour(CInt(ToNumber(colour_[0])), CInt(ToNumber(colour_[1])), CInt(ToNumber(colour_[2])));
   s.AntColour = preview_;
 }
 
@@ -110,7 +110,7 @@ void OptionsForm::ApplyOptions() {
     // A box typed while another held no number was never corrected: clamp it here too.
     if (IsNumeric(colour_[i])) *components[i] = static_cast<int16_t>(ColourComponent(colour_[i]));
   }
-  s.AntColour = Rgb(s.AntRed, s.AntGreen, s.AntBlue);
+  s.AntColour = Colour(s.AntRed, s.AntGreen, s.AntBlue);
   s.FoodRate = static_cast<int16_t>(foodRate_);
   s.LifeSpan = static_cast<int16_t>(lifeSpan_);
   if (window_.View.CurrentTool == NestTool) window_.View.ToolColour = s.AntColour;

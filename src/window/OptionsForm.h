@@ -15,6 +15,7 @@
 
 #include <string>
 
+#include "model/Colour.h"
 #include "model/WorldCreation.h"
 
 namespace keldor {
@@ -61,7 +62,7 @@ class OptionsForm {
   int FoodTrace() const { return foodTrace_; }
   int NestTrace() const { return nestTrace_; }
   // picAntColor's background: the colour the three boxes make.
-  double PreviewColour() const { return preview_; }
+  Colour PreviewColour() const { return preview_; }
 
   // Change handlers: each takes the text as typed and leaves the corrected
   // text in the field (the window shows it with the caret at its end).
@@ -89,7 +90,7 @@ class OptionsForm {
   int foodRate_ = 0;
   int foodTrace_ = 0;
   int nestTrace_ = 0;
-  double preview_ = 0;
+  Colour preview_{};
 };
 
 // What New reads from the options dialog as it would be filled now: the grid

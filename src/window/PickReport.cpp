@@ -51,10 +51,9 @@ std::string Point(double x, double y) { return "(" + Number(x) + ", " + Number(y
 
 std::string CellText(int x, int y) { return "(" + std::to_string(x) + ", " + std::to_string(y) + ")"; }
 
-std::string ColourText(double colour) {
-  const long v = static_cast<long>(colour);
-  return "RGB(" + std::to_string(v & 0xFF) + ", " + std::to_string((v >> 8) & 0xFF) + ", " +
-         std::to_string((v >> 16) & 0xFF) + ")";
+std::string ColourText(Colour colour) {
+  return "RGB(" + std::to_string(colour.Red()) + ", " + std::to_string(colour.Green()) + ", " +
+         std::to_string(colour.Blue()) + ")";
 }
 
 int LivingAnts(const Nest& nest) {

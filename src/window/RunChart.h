@@ -12,6 +12,7 @@
 #include <string_view>
 #include <vector>
 
+#include "model/Colour.h"
 #include "sim/TickTotals.h"
 #include "window/ChartSeries.h"
 
@@ -32,7 +33,7 @@ class RunChart {
   struct Colony {
     uint32_t Serial = 0;  // the nest's
     std::string Name;
-    double Colour = 0;
+    keldor::Colour Colour{};
     ChartSeries Population;
   };
 

@@ -39,9 +39,9 @@ void SelectTool(const World& world, WindowState& window, int index) {
   view.CurrentTool = static_cast<Tool>(index);
   window.Controls.CrossHairPointer = view.CurrentTool != NoTool;
   switch (view.CurrentTool) {
-    case FoodTool: view.ToolColour = Rgb(0, 150, 0); break;
-    case WallTool: view.ToolColour = Rgb(100, 100, 150); break;
-    case RemoveAntsTool: view.ToolColour = Rgb(150, 100, 70); break;
+    case FoodTool: view.ToolColour = Colour(0, 150, 0); break;
+    case WallTool: view.ToolColour = Colour(100, 100, 150); break;
+    case RemoveAntsTool: view.ToolColour = Colour(150, 100, 70); break;
     case NestTool: view.ToolColour = world.Settings.AntColour; break;
     case NoTool: break;
   }

@@ -54,6 +54,6 @@ void CloseInfoPanel(WindowState& window, WindowLayout& layout) {
   ToggleInfoPanel(window, layout);
 }
 
-double QuickButtonColour(bool panelVisible) { return panelVisible ? QuickShownColour : QuickHiddenColour; }
+Colour QuickButtonColour(bool panelVisible) { return panelVisible ? QuickShownColour : QuickHiddenColour; }
 
 }  // namespace keldor

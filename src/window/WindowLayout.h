@@ -4,6 +4,8 @@
 // desktop window places its widgets from these rectangles.
 #pragma once
 
+#include "model/Colour.h"
+
 namespace keldor {
 
 struct WindowState;
@@ -28,8 +30,8 @@ inline constexpr double ClassicFrameWidth = 2 * 60;
 inline constexpr double ClassicFrameHeight = 2 * 60 + 285 + 300;
 
 // Quick-toggle colours: green while its panel shows, red while hidden.
-inline constexpr double QuickShownColour = 0x00FF00;
-inline constexpr double QuickHiddenColour = 0x0000FF;
+inline constexpr Colour QuickShownColour{0, 255, 0};
+inline constexpr Colour QuickHiddenColour{255, 0, 0};
 
 struct WindowLayout {
   // Outer size of the window.
@@ -74,6 +76,6 @@ void QuickToggle(WindowState& window, WindowLayout& layout, int index);
 // The info button of the button bar: collapse the palette, toggle the panel.
 void CloseInfoPanel(WindowState& window, WindowLayout& layout);
 
-double QuickButtonColour(bool panelVisible);
+Colour QuickButtonColour(bool panelVisible);
 
 }  // namespace keldor

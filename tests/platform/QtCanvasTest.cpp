@@ -5,7 +5,7 @@
 #include <cmath>
 #include <utility>
 
-#include "model/Numeric.h"
+#include "model/Colour.h"
 #include "platform/FrameImage.h"
 #include "platform/QtCanvas.h"
 
@@ -15,8 +15,8 @@ namespace {
 const QRgb Background = qRgb(185, 172, 145);
 const QRgb RedPixel = qRgb(255, 0, 0);
 const QRgb BluePixel = qRgb(0, 0, 255);
-const double Red = Rgb(255, 0, 0);
-const double Blue = Rgb(0, 0, 255);
+constexpr Colour Red{255, 0, 0};
+constexpr Colour Blue{0, 0, 255};
 
 QRgb Pixel(const QImage& image, int x, int y) { return image.pixel(x, y) | 0xff000000u; }
 QRgb Pixel(const QtCanvas& canvas, int x, int y) { return Pixel(canvas.Image(), x, y); }
@@ -130,7 +130,7 @@ TEST(QtCanvasTest, LinesOffImageShapesAndCallOrder) {
 TEST(QtCanvasTest, PrintDrawsTheTextInForeColorBelowRightOfTheCurrentPoint) {
   QtCanvas canvas(100, 60);
   canvas.SetScale({0, 0, 1500, 900});
-  canvas.Pen.ForeColor = Rgb(0, 0, 0);
+  canvas.Pen.ForeColor = Colour(0, 0, 0);
   canvas.Pen.FontSize = 8;  // 160 twips, about 11 pixels
   canvas.Pen.CurrentX = 300;
   canvas.Pen.CurrentY = 150;  // pixel (20, 10)

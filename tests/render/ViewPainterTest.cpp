@@ -19,24 +19,24 @@
 namespace keldor::testing {
 namespace {
 
-const double Black = Rgb(0, 0, 0);
-const double Blue = Rgb(0, 0, 255);
-const double Red = Rgb(255, 0, 0);
-const double Grey = Rgb(50, 50, 50);
-const double Green = Rgb(16, 152, 16);
-const double Yellow = Rgb(255, 255, 0);
-const double Ochre = Rgb(139, 129, 103);
-const double Brick = Rgb(120, 40, 40);
+constexpr Colour Black{0, 0, 0};
+constexpr Colour Blue{0, 0, 255};
+constexpr Colour Red{255, 0, 0};
+constexpr Colour Grey{50, 50, 50};
+constexpr Colour Green{16, 152, 16};
+constexpr Colour Yellow{255, 255, 0};
+constexpr Colour Ochre{139, 129, 103};
+constexpr Colour Brick{120, 40, 40};
 const double PileOf50 = 7853.9815;  // Pi * 50^2: a disc of radius 50 body units
 
-std::string Name(double colour) {
-  const std::pair<double, const char*> names[] = {{Black, "black"}, {Blue, "blue"},   {Red, "red"},
+std::string Name(Colour colour) {
+  const std::pair<Colour, const char*> names[] = {{Black, "black"}, {Blue, "blue"},   {Red, "red"},
                                                   {Grey, "grey"},   {Green, "green"}, {Yellow, "yellow"},
                                                   {Ochre, "ochre"}, {Brick, "brick"}};
   for (const auto& [value, name] : names) {
     if (value == colour) return name;
   }
-  return std::to_string(colour);
+  return std::to_string(colour.Packed());
 }
 
 // What a view was asked to draw, one call after another: a box's corners, a

@@ -340,7 +340,7 @@ TEST(BlendSignature, PaintsWhiteAndMarksOnlyForALivingAntOfAnotherTrail) {
     target.Signature = c.before;
     BlendSignature(rig.random, 1, rig.world.Nests[0], target, 16);
     EXPECT_EQ(std::tuple(target.Signature.ToString(), rig.script.Log, target.Colour),
-              std::tuple(c.after, c.log, 16777215.0))
+              std::tuple(c.after, c.log, Colour(255, 255, 255)))
         << c.what;
   }
 }

@@ -141,7 +141,7 @@ TEST(Encounters, AnUnloadedAntInACrowdBitesTheFirstLivingAntOfEachRivalColony) {
       EXPECT_EQ(world.Cells(4, 4).Scent, c.scentAfter) << c.scent << " " << c.trace << " " << indexed;
       EXPECT_TRUE(rival.Ants[1].Colour == rival.Colour && rival.Ants[2].Energy == 0) << "out of reach; dead";
       EXPECT_EQ(rival.Ants[3].Energy, bites ? 400 : 500) << "500 less the biter's unit of 100";
-      EXPECT_EQ(rival.Ants[3].Colour, bites ? Rgb(255, 0, 0) : rival.Colour);
+      EXPECT_EQ(rival.Ants[3].Colour, bites ? Colour(255, 0, 0) : rival.Colour);
       EXPECT_EQ(rival.Ants[4].Energy, 500) << "one bite per colony";
       EXPECT_EQ(scene.nest(2).Ants[1].Energy, bites && !c.allied ? 1 : 50) << "a bite never kills";
     }

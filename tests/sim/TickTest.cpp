@@ -36,16 +36,16 @@ struct DrawnCells : NullPainter {
 };
 
 TEST(Tick, CellPassClampsColoursAndDrawsCellsWithScentOrAntsAndDecaysThemWhileRunning) {
-  const double untouched = 12345;
-  const struct { double scent; int16_t ants; bool wall; double running, paused, colour; } cases[] = {
-      {505, 0, false, 499, 500, Rgb(116, 168, 116)},     // clamped to 500, then one unit of decay
-      {-260, 0, false, -249, -250, Rgb(139, 129, 103)},  // clamped to -250
-      {-3, 0, false, -2, -3, Rgb(199, 171, 144)},        // 200 - 61 * 0.012 = 199.27, ...
-      {1, 0, false, 0, 1, Rgb(185, 200, 145)},           // decays to 0, which unmarks it
-      {0, 2, false, 0, 0, Rgb(200, 172, 145)},           // ants without scent: the zero-scent colour
-      {0, 0, false, 0, 0, untouched},                    // neither scent nor ants: left alone
-      {-120, 0, true, 0, 0, untouched},                  // a wall wipes the scent first
-      {-120, 2, true, 0, 0, Rgb(200, 172, 145)}};
+  constexpr Colour untouched{45, 12, 3};
+  const struct { double scent; int16_t ants; bool wall; double running, paused; Colour colour; } cases[] = {
+      {505, 0, false, 499, 500, {116, 168, 116}},     // clamped to 500, then one unit of decay
+      {-260, 0, false, -249, -250, {139, 129, 103}},  // clamped to -250
+      {-3, 0, false, -2, -3, {199, 171, 144}},        // 200 - 61 * 0.012 = 199.27, ...
+      {1, 0, false, 0, 1, {185, 200, 145}},           // decays to 0, which unmarks it
+      {0, 2, false, 0, 0, {200, 172, 145}},           // ants without scent: the zero-scent colour
+      {0, 0, false, 0, 0, untouched},                 // neither scent nor ants: left alone
+      {-120, 0, true, 0, 0, untouched},               // a wall wipes the scent first
+      {-120, 2, true, 0, 0, {200, 172, 145}}};
   const Signature marked(std::string_view("1010101010101010"));
   for (const bool running : {true, false}) {
     RuleWorld rule;

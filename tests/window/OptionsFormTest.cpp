@@ -41,10 +41,10 @@ TEST_F(OptionsFormTest, TextBoxesAreCorrectedAsTyped) {
     form.ColourTyped(box, typed);
     EXPECT_EQ(form.ColourText(box), shown) << typed;
   }
-  EXPECT_EQ(s.AntColour, Rgb(255, 0, 12));
+  EXPECT_EQ(s.AntColour, Colour(255, 0, 12));
   form.ColourTyped(ColourBox::Green, "g");  // unreadable: the settings colour falls back
-  EXPECT_EQ(s.AntColour, Rgb(150, 100, 70));
-  EXPECT_EQ(form.PreviewColour(), Rgb(255, 0, 12));
+  EXPECT_EQ(s.AntColour, Colour(150, 100, 70));
+  EXPECT_EQ(form.PreviewColour(), Colour(255, 0, 12));
   form.GridSizeTyped("500");
   EXPECT_EQ(form.GridDimXText(), "181");
   form.GridSizeTyped("0");
@@ -53,20 +53,22 @@ TEST_F(OptionsFormTest, TextBoxesAreCorrectedAsTyped) {
   EXPECT_EQ(form.GridDimYText(), "1");
   form.GridSizeTyped("");  // no number: OK leaves the grid alone
   form.ApplyOptions();  // the colour components change only on OK; the unreadable one stays
-  EXPECT_EQ(s.AntColour, Rgb(255, 100, 12));
+  EXPECT_EQ(s.AntColour, Colour(255, 100, 12));
   EXPECT_EQ(window.PendingGridSize, 0);
   // Typed while Green holds no number, so never corrected on change: OK clamps them.
   form.ColourTyped(ColourBox::Red, "-50");
   form.ColourTyped(ColourBox::Blue, "300.5");
+  form.ColourTyped(ColourBox::Green, "100");  // the preview takes them as typed: -50 and CInt 300, held to 0..255
+  EXPECT_EQ(form.PreviewColour(), Colour(0, 100, 255));
   form.ApplyOptions();
-  EXPECT_EQ(s.AntColour, Rgb(0, 100, 255));
+  EXPECT_EQ(s.AntColour, Colour(0, 100, 255));
   EXPECT_TRUE(s.AntRed == 0 && s.AntBlue == 255);
 }
 
 TEST_F(OptionsFormTest, CancelKeepsOnlyWhatWasTakenOverOnChange) {
   {
     OptionsForm form(w, window);
-    EXPECT_EQ(form.PreviewColour(), Rgb(150, 100, 70));
+    EXPECT_EQ(form.PreviewColour(), Colour(150, 100, 70));
     form.NestTraceMoved(40);
     EXPECT_EQ(TickInputOf(window, w).NestTraceSlider, 40);  // the tick reads the slider while the form is open
     form.AntCountTyped("12");
@@ -81,7 +83,7 @@ TEST_F(OptionsFormTest, CancelKeepsOnlyWhatWasTakenOverOnChange) {
   EXPECT_FALSE(TickInputOf(window, w).NestTraceSlider);
   EXPECT_EQ(s.AntsPerNest, 12);
   EXPECT_DOUBLE_EQ(s.AntSizeMm, 2);
-  EXPECT_EQ(s.AntColour, Rgb(10, 100, 70));
+  EXPECT_EQ(s.AntColour, Colour(10, 100, 70));
   EXPECT_EQ(s.FoodTraceSetting, 77);
   EXPECT_EQ(s.AntRed, 150);
   EXPECT_EQ(s.LifeSpan, 100);
@@ -103,7 +105,7 @@ TEST_F(OptionsFormTest, OkTakesTheRestAndTheEditedGridWaitsForTheNextNew) {
   }
   EXPECT_EQ(s.LifeSpan, 50);
   EXPECT_EQ(s.FoodRate, 0);
-  EXPECT_EQ(window.View.ToolColour, Rgb(150, 100, 200));
+  EXPECT_EQ(window.View.ToolColour, Colour(150, 100, 200));
   EXPECT_EQ(s.GridX, 30);
   EXPECT_EQ(OptionsForm(w, window).GridDimXText(), "21");
   NewFromOptions(w, window, t.random);

@@ -17,7 +17,7 @@ struct PickReportTest : ::testing::Test {
   }
   void Place(int i, double rx, double ry, double hx, double hy) {
     Ant& a = world.Nests[0].Ants[i];
-    a = Ant{rx, ry, hx, hy, 1, 1, a.Serial, 0.5, 4, 12.25, 0.75, 99.3, 0};
+    a = Ant{rx, ry, hx, hy, 1, 1, a.Serial, 0.5, 4, 12.25, 0.75, 99.3, {}};
   }
   testing::TestWorld t;
   World& world = t.world;

@@ -69,6 +69,8 @@ TEST(SnapshotRunTest, DamagedFilesAndWorldOptionsAreRefusedNamingTheField) {
        "Nests[0].CellX: not a whole number from 1 to 6"},
       {changed([&](QJsonObject& s) { inFirstNest(s, [](QJsonObject& n) { n["Signature"] = "0120"; }); }),
        "Nests[0].Signature: not a signature"},
+      {changed([&](QJsonObject& s) { inFirstNest(s, [](QJsonObject& n) { n["Colour"] = 16777216; }); }),
+       "Nests[0].Colour: not a whole number from 0 to 16777215"},  // one past white, 2^24 - 1
       {changed([&](QJsonObject& s) {
          inFirstNest(s, [](QJsonObject& n) {
            QJsonArray ants = n["Ants"].toArray();
