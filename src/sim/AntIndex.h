@@ -63,6 +63,16 @@ class AntIndex {
     }
   }
 
+  // Calls visit(slot, IndexedAnt) for every indexed ant, slot by slot: one
+  // pass over the index, cheaper than one over the ant records.
+  template <class Visit>
+  void ForEachIndexed(Visit visit) const {
+    for (size_t slot = 0; slot + 1 < cellStart_.size(); ++slot) {
+      const int end = cellStart_[slot + 1];
+      for (int k = cellStart_[slot]; k < end; ++k) visit(slot, ants_[static_cast<size_t>(k)]);
+    }
+  }
+
   // The same ants, in nest-then-ant order, as a scan of every ant meets them.
   const std::vector<AntRef>& Near(double worldX, double worldY, double reach);
 

@@ -13,7 +13,6 @@
 namespace keldor {
 
 void RivalNeighbourhood::Reset(const World& world, const AntIndex& index, double reach) {
-  world_ = &world;
   index_ = &index;
   reach_ = PaddedReach(reach, index.CellSize());
   cellsOfReach_ = 0;
@@ -29,14 +28,11 @@ void RivalNeighbourhood::Reset(const World& world, const AntIndex& index, double
 
   constexpr double far = std::numeric_limits<double>::infinity();
   std::vector<Box> boxes(static_cast<size_t>(colonies_), Box{far, far, -far, -far});
-  for (int n = 0; n < world.NestCount; ++n) {
-    Box& box = boxes[static_cast<size_t>(colonyOfNest_[static_cast<size_t>(n)])];
-    for (const Ant& ant : world.Nests[static_cast<size_t>(n)].Ants) {
-      if (!(ant.Energy > 0)) continue;
-      box = {std::min(box.Left, ant.HeadX), std::min(box.Top, ant.HeadY), std::max(box.Right, ant.HeadX),
-             std::max(box.Bottom, ant.HeadY)};
-    }
-  }
+  index.ForEachIndexed([&](size_t, const IndexedAnt& ant) {
+    Box& box = boxes[static_cast<size_t>(colonyOfNest_[static_cast<size_t>(ant.Ref.Nest)])];
+    box = {std::min(box.Left, ant.HeadX), std::min(box.Top, ant.HeadY), std::max(box.Right, ant.HeadX),
+           std::max(box.Bottom, ant.HeadY)};
+  });
   // A colony with no living ant has an empty box and meets nobody.
   for (size_t a = 0; a < boxes.size(); ++a) {
     bool meets = false;
@@ -69,12 +65,9 @@ void RivalNeighbourhood::SummariseCells() {
   cellsOfReach_ = static_cast<int>(cellsOfReach);
   cellColonies_.assign(static_cast<size_t>(index_->Columns()) * static_cast<size_t>(index_->Rows()), 0);
   nearColonies_.assign(cellColonies_.size(), 0);
-  for (int n = 0; n < world_->NestCount; ++n) {
-    const uint64_t bit = uint64_t{1} << colonyOfNest_[static_cast<size_t>(n)];
-    for (const Ant& ant : world_->Nests[static_cast<size_t>(n)].Ants) {
-      if (ant.Energy > 0) cellColonies_[index_->CellSlotAt(ant.HeadX, ant.HeadY)] |= bit;
-    }
-  }
+  index_->ForEachIndexed([&](size_t slot, const IndexedAnt& ant) {
+    cellColonies_[slot] |= uint64_t{1} << colonyOfNest_[static_cast<size_t>(ant.Ref.Nest)];
+  });
 }
 
 uint64_t RivalNeighbourhood::NearbyColonies(size_t slot) const {

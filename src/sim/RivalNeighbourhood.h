@@ -52,7 +52,6 @@ class RivalNeighbourhood {
   // The colonies of the slots within cellsOfReach_ of the slot, both ways.
   uint64_t NearbyColonies(size_t slot) const;
 
-  const World* world_ = nullptr;
   const AntIndex* index_ = nullptr;
   double reach_ = 0;
   int colonies_ = 0;
