@@ -7,6 +7,7 @@
 #pragma once
 
 #include <array>
+#include <cmath>
 #include <cstdint>
 
 namespace keldor {
@@ -63,6 +64,15 @@ class RandomSource {
       return script_->NextDraw();
     return static_cast<double>(Next() >> 11) * 0x1.0p-53;
   }
+  // Int(2 * Rnd()), 0 or 1, from one draw: the generator's draw is below
+  // one half exactly when the top bit of its word is clear.
+  int Coin() {
+    if (script_ != nullptr) [[unlikely]]
+      return static_cast<int>(std::floor(2 * script_->NextDraw()));
+    return static_cast<int>(Next() >> 63);
+  }
+  // -1 or +1 from one draw: (-1)^(Int(2 Rnd()) + 1).
+  double Sign() { return 2.0 * Coin() - 1.0; }
   // Restart the generator from the clock's current time of day.
   void ReseedFromClock();
   // Draws come from the script from now on; nullptr returns to the generator.
@@ -94,9 +104,5 @@ class RandomSource {
   DrawScript* script_ = nullptr;
   RandomState state_{};
 };
-
-// -1 for a draw below 0.5, +1 otherwise: (-1)^(Int(2r)+1). Arithmetic rather
-// than a branch, which a random draw would mispredict half the time.
-inline double SignOfDraw(double r) { return 2.0 * static_cast<int>(2 * r) - 1.0; }
 
 }  // namespace keldor

@@ -152,9 +152,9 @@ bool CreateNest(World& world, RandomSource& random, int16_t cellX, int16_t cellY
 }
 
 WorldPoint PointOnCircle(RandomSource& random, WorldPoint centre, double length, double scaleX) {
-  const double signX = SignOfDraw(random.Rnd());
+  const double signX = random.Sign();
   const double x = centre.X + signX * random.Rnd() * length / scaleX;
-  const double signY = SignOfDraw(random.Rnd());
+  const double signY = random.Sign();
   const double reach = length / scaleX;
   return {x, centre.Y + signY * std::sqrt(reach * reach - (x - centre.X) * (x - centre.X))};
 }

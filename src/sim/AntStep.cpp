@@ -15,14 +15,14 @@ namespace {
 
 // A turn of up to maxDegrees either way, from two fresh draws: sign, then size.
 double RandomTurn(RandomSource& random, double maxDegrees) {
-  const double sign = SignOfDraw(random.Rnd());
+  const double sign = random.Sign();
   return sign * random.Rnd() * maxDegrees * Pi / 180;
 }
 
 // The queen's turn of up to 60 degrees, scaled by the radian factor taken
 // first: it rounds differently from RandomTurn in the last bit.
 double QueenTurn(RandomSource& random) {
-  const double sign = SignOfDraw(random.Rnd());
+  const double sign = random.Sign();
   return sign * random.Rnd() * 60 * (Pi / 180);
 }
 
@@ -64,7 +64,7 @@ void ForCross(const World& world, int x, int y, Visit visit) {
   for (int k = 0; k < length; ++k) {
     // A never-marked (empty) signature reads as "0" characters.
     const char own = k < target.Signature.Length() ? target.Signature[k] : '0';
-    mixed[static_cast<size_t>(k)] = Int(2 * random.Rnd()) == 0 ? source[k] : own;
+    mixed[static_cast<size_t>(k)] = random.Coin() == 0 ? source[k] : own;
   }
   target.Signature = Signature(std::string_view(mixed.data(), static_cast<size_t>(length)));
 }
@@ -340,7 +340,7 @@ void StepAnt(World& world, RandomSource& random, int nestIndex, int antIndex, in
   if (!world.Running) return;
   if (!(world.Nests[static_cast<size_t>(nestIndex)].Ants[antIndex].Energy > 0)) return;
   // Every ant draws its step divisor, the queen too, though she never walks.
-  const double stepDivisor = Int(2 * random.Rnd()) + 2;
+  const double stepDivisor = random.Coin() + 2;
   if (antIndex == 0) {
     StepQueen(world, random, nestIndex);
   } else {

@@ -51,8 +51,8 @@ void FeedAnts(World& world, AntIndex* index, FoodPile& pile, Cell& cell) {
 
 // -1 or +1 with one draw, then 0 or 1 with another: an offset of -1, 0 or +1.
 double RandomOffset(RandomSource& random) {
-  const double sign = SignOfDraw(random.Rnd());
-  return sign * Int(2 * random.Rnd());
+  const double sign = random.Sign();
+  return sign * random.Coin();
 }
 
 // A full pile seeds a small pile on a free neighbouring cell.
