@@ -46,7 +46,8 @@ class QtCanvas : public Canvas {
  private:
   double PixelX(double x) const { return (x - scale_.Left) * pixelsPerUnitX_; }
   double PixelY(double y) const { return (y - scale_.Top) * pixelsPerUnitY_; }
-  int LineWidthPixels() const;
+  // The pen's DrawWidth in device pixels, recomputed only when it changes.
+  int LineWidthPixels();
   // Points the direct pixel writes at the image's buffer (after it may have
   // been reallocated or detached from a copy).
   void TakeBuffer();
@@ -63,6 +64,8 @@ class QtCanvas : public Canvas {
   ViewScale scale_;
   double pixelsPerUnitX_ = 1;
   double pixelsPerUnitY_ = 1;
+  int lineWidthOfDrawWidth_ = 0;  // the DrawWidth lineWidthPixels_ was computed for
+  int lineWidthPixels_ = 1;
   DiscSprites discs_;
   TextSprites texts_;
 };

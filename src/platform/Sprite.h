@@ -44,12 +44,21 @@ class Sprite {
     uint32_t First;
   };
 
+  // Fills offsets_ for a buffer with pixelsPerRow pixels per row.
+  void MeasureOffsets(std::ptrdiff_t pixelsPerRow) const;
+
   int width_ = 0;
   int height_ = 0;
   int anchorX_ = 0;
   int anchorY_ = 0;
   std::vector<Run> runs_;
   std::vector<uint32_t> pixels_;  // opaque RGB32
+  // Where each of pixels_ goes, counted from the top-left corner in a buffer
+  // of offsetsPixelsPerRow_ pixels per row: a sprite wholly inside the buffer,
+  // the usual case, is a few single stores without any row arithmetic. A
+  // sprite belongs to one canvas, so this is measured again only on a resize.
+  mutable std::vector<std::ptrdiff_t> offsets_;
+  mutable std::ptrdiff_t offsetsPixelsPerRow_ = 0;
 };
 
 }  // namespace keldor
