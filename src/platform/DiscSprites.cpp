@@ -25,18 +25,13 @@ Sprite DrawDisc(const DiscKey& key) {
 }  // namespace
 
 const Sprite& DiscSprites::Get(const DiscKey& key) {
-  RecentDisc& recent = recent_[RecentSlot(key)];
-  if (recent.Found != nullptr && recent.Key == key) return *recent.Found;
   auto found = sprites_.find(key);
-  if (found == sprites_.end()) {
-    if (sprites_.size() >= MaxEntries) {
-      sprites_.clear();
-      recent_.fill({});
-    }
-    found = sprites_.emplace(key, DrawDisc(key)).first;
+  if (found != sprites_.end()) return found->second;
+  if (sprites_.size() >= MaxEntries) {
+    sprites_.clear();
+    ++generation_;
   }
-  recent = {key, &found->second};
-  return found->second;
+  return sprites_.emplace(key, DrawDisc(key)).first->second;
 }
 
 }  // namespace keldor

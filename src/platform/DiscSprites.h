@@ -3,7 +3,6 @@
 #pragma once
 
 #include <QRgb>
-#include <array>
 #include <cstdint>
 #include <unordered_map>
 
@@ -36,24 +35,13 @@ class DiscSprites {
   static constexpr double MaxRadius = 48;
 
   const Sprite& Get(const DiscKey& key);
+  // Changes whenever sprites handed out earlier are dropped.
+  uint64_t Generation() const { return generation_; }
 
  private:
   static constexpr size_t MaxEntries = 4096;
-  // The last sprites used, by a cheap slot number: a frame asks for the same
-  // few discs (an ant's three body circles, its map circle) tens of thousands
-  // of times, and a slot compare is much cheaper than the map's hashing.
-  struct RecentDisc {
-    DiscKey Key;
-    const Sprite* Found = nullptr;
-  };
-  static constexpr size_t RecentSlots = 64;
-  static size_t RecentSlot(const DiscKey& key) {
-    return (static_cast<size_t>(key.QuarterPixels) * 7 + key.Fill * 3 + key.Outline + static_cast<size_t>(key.LineWidth)) %
-           RecentSlots;
-  }
-
   std::unordered_map<DiscKey, Sprite, DiscKeyHash> sprites_;
-  std::array<RecentDisc, RecentSlots> recent_{};
+  uint64_t generation_ = 1;
 };
 
 }  // namespace keldor

@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <algorithm>
+#include <bit>
 #include <cmath>
 #include <cstdint>
 
@@ -16,7 +17,8 @@ namespace {
 
 const QRgb Background = qRgb(185, 172, 145);
 
-// Sets count pixels to value, four at a time where the processor allows.
+// Sets count pixels to value (none if count is 0 or less), four at a time
+// where the processor allows.
 void FillRow(uint32_t* row, int count, uint32_t value) {
   int i = 0;
 #if defined(__SSE2__)
@@ -52,12 +54,6 @@ void QtCanvas::Resize(int width, int height) {
   SetScale({scale_.Left, scale_.Top, width * TwipsPerPixel, height * TwipsPerPixel});
 }
 
-QRgb QtCanvas::ToQRgb(double colour) {
-  const auto value = static_cast<uint32_t>(static_cast<int64_t>(colour) & 0xffffff);
-  return qRgb(static_cast<int>(value & 0xff), static_cast<int>((value >> 8) & 0xff),
-              static_cast<int>((value >> 16) & 0xff));
-}
-
 void QtCanvas::SetScale(const ViewScale& scale) {
   scale_ = scale;
   pixelsPerUnitX_ = scale.Width != 0 ? buffer_.Width / scale.Width : 0;
@@ -76,24 +72,17 @@ void QtCanvas::Cls() {
   FillRow(buffer_.Pixels, static_cast<int>(buffer_.PixelsPerRow * buffer_.Height), Background | 0xff000000u);
 }
 
-int QtCanvas::LineWidthPixels() {
-  if (Pen.DrawWidth != lineWidthOfDrawWidth_) {
-    lineWidthOfDrawWidth_ = Pen.DrawWidth;
-    lineWidthPixels_ = std::max(1, ToPixelIndex(Pen.DrawWidth * devicePixelRatio_));
-  }
-  return lineWidthPixels_;
+void QtCanvas::MeasureLineWidth() {
+  lineWidthOfDrawWidth_ = Pen.DrawWidth;
+  lineWidthPixels_ = std::max(1, ToPixelIndex(Pen.DrawWidth * devicePixelRatio_));
 }
 
-void QtCanvas::FillSpan(uint32_t* row, int left, int right, uint32_t value) const {
-  left = std::max(left, 0);
-  right = std::min(right, buffer_.Width - 1);
-  if (left <= right) FillRow(row + left, right - left + 1, value);
-}
-
-void QtCanvas::FillPixels(int left, int top, int right, int bottom, QRgb colour) {
-  const uint32_t value = colour | 0xff000000u;
-  for (int y = std::max(top, 0); y <= std::min(bottom, buffer_.Height - 1); ++y) {
-    FillSpan(buffer_.Pixels + y * buffer_.PixelsPerRow, left, right, value);
+void QtCanvas::FillPixels(int left, int top, int right, int bottom, uint32_t value) {
+  const int firstColumn = std::max(left, 0);
+  const int count = std::min(right, buffer_.Width - 1) - firstColumn + 1;
+  const int lastRow = std::min(bottom, buffer_.Height - 1);
+  for (int y = std::max(top, 0); y <= lastRow; ++y) {
+    FillRow(buffer_.Pixels + y * buffer_.PixelsPerRow + firstColumn, count, value);
   }
 }
 
@@ -107,35 +96,39 @@ void QtCanvas::Box(double x1, double y1, double x2, double y2, double colour) {
   const uint32_t outline = ToQRgb(colour) | 0xff000000u;
   const bool filled = Pen.Fill == FillStyle::Solid;
   const uint32_t fill = ToQRgb(Pen.FillColor) | 0xff000000u;
-  // One pass over the rows: outline bands, and between them the left edge,
-  // the inside and the right edge.
   const int innerLeft = left + width;
   const int innerRight = right - width;
-  const int firstRow = std::max(top, 0);
-  const int lastRow = std::min(bottom, buffer_.Height - 1);
-  for (int y = firstRow; y <= lastRow; ++y) {
-    uint32_t* row = buffer_.Pixels + y * buffer_.PixelsPerRow;
-    if (y < top + width || y > bottom - width || innerLeft > innerRight) {
-      FillSpan(row, left, right, outline);
-      continue;
-    }
-    FillSpan(row, left, innerLeft - 1, outline);
-    if (filled) FillSpan(row, innerLeft, innerRight, fill);
-    FillSpan(row, innerRight + 1, right, outline);
+  const int innerTop = top + width;
+  const int innerBottom = bottom - width;
+  if (innerLeft > innerRight || innerTop > innerBottom || (filled && fill == outline)) {
+    // All outline, or inside and outline alike (every cell on the mini-map):
+    // one solid rectangle.
+    FillPixels(left, top, right, bottom, outline);
+    return;
   }
+  // The outline's four sides and the inside, each pixel written once.
+  FillPixels(left, top, right, innerTop - 1, outline);
+  FillPixels(left, innerTop, innerLeft - 1, innerBottom, outline);
+  if (filled) FillPixels(innerLeft, innerTop, innerRight, innerBottom, fill);
+  FillPixels(innerRight + 1, innerTop, right, innerBottom, outline);
+  FillPixels(left, innerBottom + 1, right, bottom, outline);
 }
 
 void QtCanvas::Line(double x1, double y1, double x2, double y2, double colour) {
-  const QRgb rgb = ToQRgb(colour);
   const double px1 = PixelX(x1), py1 = PixelY(y1), px2 = PixelX(x2), py2 = PixelY(y2);
-  const int width = LineWidthPixels() - 1;
-  if (py1 == py2 || px1 == px2) {
-    const int left = ToPixelIndex(std::min(px1, px2)), right = ToPixelIndex(std::max(px1, px2));
-    const int top = ToPixelIndex(std::min(py1, py2)), bottom = ToPixelIndex(std::max(py1, py2));
-    FillPixels(left, top, right + (px1 == px2 ? width : 0), bottom + (py1 == py2 ? width : 0), rgb);
-  } else {
-    PaintSlantedLine(px1, py1, px2, py2, rgb);
+  const bool horizontal = py1 == py2;
+  const bool vertical = px1 == px2;
+  if (!horizontal && !vertical) {
+    PaintSlantedLine(px1, py1, px2, py2, ToQRgb(colour));
+    return;
   }
+  // A straight line is a box one line width across, from its first pixel to its last.
+  const int extra = LineWidthPixels() - 1;
+  const int left = ToPixelIndex(std::min(px1, px2));
+  const int right = vertical ? left + extra : ToPixelIndex(std::max(px1, px2));
+  const int top = ToPixelIndex(std::min(py1, py2));
+  const int bottom = horizontal ? top + extra : ToPixelIndex(std::max(py1, py2));
+  FillPixels(left, top, right, bottom, ToQRgb(colour) | 0xff000000u);
 }
 
 void QtCanvas::PaintSlantedLine(double x1, double y1, double x2, double y2, QRgb colour) {
@@ -157,16 +150,27 @@ void QtCanvas::Circle(double x, double y, double radius, double colour) {
   const int lineWidth = LineWidthPixels();
   const double reach = r + lineWidth;
   if (cx + reach < 0 || cy + reach < 0 || cx - reach > buffer_.Width || cy - reach > buffer_.Height) return;
-  const QRgb outline = ToQRgb(colour);
   if (r > DiscSprites::MaxRadius) {
-    PaintLargeCircle(cx, cy, r, outline);
+    PaintLargeCircle(cx, cy, r, ToQRgb(colour));
     return;
   }
-  const DiscKey key{ToPixelIndex(r * 4), lineWidth, Pen.Fill == FillStyle::Solid,
-                    ToQRgb(Pen.FillColor), outline};
   // The centre snaps to a pixel as a box corner does, so a disc sits on the
   // grid lines of the cell box drawn around it.
-  discs_.Get(key).StampOnto(buffer_, ToPixelIndex(cx), ToPixelIndex(cy));
+  DiscSprite(r, lineWidth, colour).StampOnto(buffer_, ToPixelIndex(cx), ToPixelIndex(cy));
+}
+
+const Sprite& QtCanvas::DiscSprite(double radiusPixels, int lineWidth, double outline) {
+  // Slots by the radius's leading fraction bits: an ant's body circles differ there.
+  RecentDisc& recent = recentDiscs_[std::bit_cast<uint64_t>(radiusPixels) >> 49 & (RecentDiscSlots - 1)];
+  if (recent.RadiusPixels == radiusPixels && recent.FillColor == Pen.FillColor && recent.Outline == outline &&
+      recent.Fill == Pen.Fill && recent.LineWidth == lineWidth && recent.Generation == discs_.Generation()) {
+    return *recent.Found;
+  }
+  const DiscKey key{ToPixelIndex(radiusPixels * 4), lineWidth, Pen.Fill == FillStyle::Solid, ToQRgb(Pen.FillColor),
+                    ToQRgb(outline)};
+  const Sprite& found = discs_.Get(key);
+  recent = {radiusPixels, Pen.FillColor, outline, Pen.Fill, lineWidth, discs_.Generation(), &found};
+  return found;
 }
 
 void QtCanvas::PaintLargeCircle(double cx, double cy, double radius, QRgb outline) {
@@ -185,8 +189,11 @@ void QtCanvas::Print(std::string_view text) {
   const int x = ToPixelIndex(PixelX(Pen.CurrentX));
   const int y = ToPixelIndex(PixelY(Pen.CurrentY));
   if (x >= buffer_.Width || y >= buffer_.Height) return;
-  const int pixelSize = ToPixelIndex(Pen.FontSize * TwipsPerPoint / TwipsPerPixel * devicePixelRatio_);
-  texts_.Get(text, ToQRgb(Pen.ForeColor), pixelSize).StampOnto(buffer_, x, y);
+  if (Pen.FontSize != fontPixelsOfFontSize_) {
+    fontPixelsOfFontSize_ = Pen.FontSize;
+    fontPixels_ = ToPixelIndex(Pen.FontSize * TwipsPerPoint / TwipsPerPixel * devicePixelRatio_);
+  }
+  texts_.Get(text, ToQRgb(Pen.ForeColor), fontPixels_).StampOnto(buffer_, x, y);
 }
 
 }  // namespace keldor

@@ -11,6 +11,7 @@
 
 #include <QImage>
 #include <QRgb>
+#include <array>
 #include <cstdint>
 
 #include "render/ViewState.h"
@@ -41,20 +42,30 @@ class QtCanvas : public Canvas {
   // New size in logical pixels; the image is cleared to the background.
   void Resize(int width, int height);
 
-  static QRgb ToQRgb(double colour);
+  static QRgb ToQRgb(double colour) {
+    const auto value = static_cast<uint32_t>(static_cast<int64_t>(colour) & 0xffffff);
+    return qRgb(static_cast<int>(value & 0xff), static_cast<int>((value >> 8) & 0xff),
+                static_cast<int>((value >> 16) & 0xff));
+  }
 
  private:
   double PixelX(double x) const { return (x - scale_.Left) * pixelsPerUnitX_; }
   double PixelY(double y) const { return (y - scale_.Top) * pixelsPerUnitY_; }
-  // The pen's DrawWidth in device pixels, recomputed only when it changes.
-  int LineWidthPixels();
+  // The pen's DrawWidth in device pixels, measured again only when it changes.
+  int LineWidthPixels() {
+    if (Pen.DrawWidth != lineWidthOfDrawWidth_) MeasureLineWidth();
+    return lineWidthPixels_;
+  }
+  void MeasureLineWidth();
   // Points the direct pixel writes at the image's buffer (after it may have
   // been reallocated or detached from a copy).
   void TakeBuffer();
-  // Fills pixel columns left..right (inclusive) of one row, clipped.
-  void FillSpan(uint32_t* row, int left, int right, uint32_t value) const;
-  // Fills pixel columns left..right of rows top..bottom (inclusive), clipped.
-  void FillPixels(int left, int top, int right, int bottom, QRgb colour);
+  // Sets pixel columns left..right of rows top..bottom (inclusive), clipped,
+  // to an opaque value.
+  void FillPixels(int left, int top, int right, int bottom, uint32_t value);
+  // The sprite of a disc of the pen's fill with the given radius, line width
+  // and outline colour.
+  const Sprite& DiscSprite(double radiusPixels, int lineWidth, double outline);
   void PaintLargeCircle(double cx, double cy, double radius, QRgb outline);
   void PaintSlantedLine(double x1, double y1, double x2, double y2, QRgb colour);
 
@@ -64,9 +75,25 @@ class QtCanvas : public Canvas {
   ViewScale scale_;
   double pixelsPerUnitX_ = 1;
   double pixelsPerUnitY_ = 1;
-  int lineWidthOfDrawWidth_ = 0;  // the DrawWidth lineWidthPixels_ was computed for
+  int lineWidthOfDrawWidth_ = 0;  // the DrawWidth lineWidthPixels_ was measured for
   int lineWidthPixels_ = 1;
+  int fontPixelsOfFontSize_ = -1;  // the FontSize fontPixels_ was measured for
+  int fontPixels_ = 0;
   DiscSprites discs_;
+  // The discs drawn last, keyed by the call's own values: the same disc again
+  // (an ant's three body circles, its map circle, tens of thousands a frame)
+  // skips the colour conversions and the sprite map.
+  struct RecentDisc {
+    double RadiusPixels = -1;
+    double FillColor = 0;
+    double Outline = 0;
+    FillStyle Fill = FillStyle::Solid;
+    int LineWidth = 0;
+    uint64_t Generation = 0;  // of discs_: a sprite dropped since is not used
+    const Sprite* Found = nullptr;
+  };
+  static constexpr size_t RecentDiscSlots = 8;
+  std::array<RecentDisc, RecentDiscSlots> recentDiscs_{};
   TextSprites texts_;
 };
 

@@ -40,16 +40,8 @@ void Sprite::MeasureOffsets(std::ptrdiff_t pixelsPerRow) const {
   offsetsPixelsPerRow_ = pixelsPerRow;
 }
 
-void Sprite::StampOnto(const PixelBuffer& target, int x, int y) const {
-  const int left = x - anchorX_;
-  const int top = y - anchorY_;
+void Sprite::StampClipped(const PixelBuffer& target, int left, int top) const {
   if (left >= target.Width || top >= target.Height || left + width_ <= 0 || top + height_ <= 0) return;
-  if (left >= 0 && top >= 0 && left + width_ <= target.Width && top + height_ <= target.Height) {
-    if (offsetsPixelsPerRow_ != target.PixelsPerRow) MeasureOffsets(target.PixelsPerRow);
-    uint32_t* corner = target.Pixels + top * target.PixelsPerRow + left;
-    for (size_t i = 0; i < pixels_.size(); ++i) corner[offsets_[i]] = pixels_[i];
-    return;
-  }
   for (const Run& run : runs_) {
     const int ty = top + run.Y;
     if (ty < 0 || ty >= target.Height) continue;
