@@ -2,7 +2,6 @@
 
 #include <QPainter>
 #include <algorithm>
-#include <bit>
 #include <cmath>
 #include <cstdint>
 
@@ -159,17 +158,13 @@ void QtCanvas::Circle(double x, double y, double radius, double colour) {
   DiscSprite(r, lineWidth, colour).StampOnto(buffer_, ToPixelIndex(cx), ToPixelIndex(cy));
 }
 
-const Sprite& QtCanvas::DiscSprite(double radiusPixels, int lineWidth, double outline) {
-  // Slots by the radius's leading fraction bits: an ant's body circles differ there.
-  RecentDisc& recent = recentDiscs_[std::bit_cast<uint64_t>(radiusPixels) >> 49 & (RecentDiscSlots - 1)];
-  if (recent.RadiusPixels == radiusPixels && recent.FillColor == Pen.FillColor && recent.Outline == outline &&
-      recent.Fill == Pen.Fill && recent.LineWidth == lineWidth && recent.Generation == discs_.Generation()) {
-    return *recent.Found;
-  }
+const Sprite& QtCanvas::FindDiscSprite(double radiusPixels, int lineWidth, double outline) {
   const DiscKey key{ToPixelIndex(radiusPixels * 4), lineWidth, Pen.Fill == FillStyle::Solid, ToQRgb(Pen.FillColor),
                     ToQRgb(outline)};
+  const uint64_t generation = discs_.Generation();
   const Sprite& found = discs_.Get(key);
-  recent = {radiusPixels, Pen.FillColor, outline, Pen.Fill, lineWidth, discs_.Generation(), &found};
+  if (discs_.Generation() != generation) recentDiscs_.fill({});  // their sprites were dropped
+  recentDiscs_[RecentDiscSlot(radiusPixels)] = {radiusPixels, Pen.FillColor, outline, Pen.Fill, lineWidth, &found};
   return found;
 }
 

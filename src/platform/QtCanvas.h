@@ -12,6 +12,7 @@
 #include <QImage>
 #include <QRgb>
 #include <array>
+#include <bit>
 #include <cstdint>
 
 #include "render/ViewState.h"
@@ -65,7 +66,16 @@ class QtCanvas : public Canvas {
   void FillPixels(int left, int top, int right, int bottom, uint32_t value);
   // The sprite of a disc of the pen's fill with the given radius, line width
   // and outline colour.
-  const Sprite& DiscSprite(double radiusPixels, int lineWidth, double outline);
+  const Sprite& DiscSprite(double radiusPixels, int lineWidth, double outline) {
+    const RecentDisc& recent = recentDiscs_[RecentDiscSlot(radiusPixels)];
+    if (recent.RadiusPixels == radiusPixels && recent.FillColor == Pen.FillColor && recent.Outline == outline &&
+        recent.Fill == Pen.Fill && recent.LineWidth == lineWidth) {
+      return *recent.Found;
+    }
+    return FindDiscSprite(radiusPixels, lineWidth, outline);
+  }
+  // The disc from the sprite cache; it becomes its slot's recent disc.
+  const Sprite& FindDiscSprite(double radiusPixels, int lineWidth, double outline);
   void PaintLargeCircle(double cx, double cy, double radius, QRgb outline);
   void PaintSlantedLine(double x1, double y1, double x2, double y2, QRgb colour);
 
@@ -89,10 +99,13 @@ class QtCanvas : public Canvas {
     double Outline = 0;
     FillStyle Fill = FillStyle::Solid;
     int LineWidth = 0;
-    uint64_t Generation = 0;  // of discs_: a sprite dropped since is not used
     const Sprite* Found = nullptr;
   };
   static constexpr size_t RecentDiscSlots = 8;
+  // Slots by the radius's leading fraction bits: an ant's body circles differ there.
+  static size_t RecentDiscSlot(double radiusPixels) {
+    return std::bit_cast<uint64_t>(radiusPixels) >> 49 & (RecentDiscSlots - 1);
+  }
   std::array<RecentDisc, RecentDiscSlots> recentDiscs_{};
   TextSprites texts_;
 };
