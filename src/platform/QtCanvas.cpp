@@ -50,6 +50,7 @@ void QtCanvas::Resize(int width, int height) {
                   std::max(1, static_cast<int>(std::lround(height * devicePixelRatio_))), QImage::Format_RGB32);
   image_.fill(Background);
   TakeBuffer();
+  buffer_.Written = {};
   SetScale({scale_.Left, scale_.Top, width * TwipsPerPixel, height * TwipsPerPixel});
 }
 
@@ -68,7 +69,15 @@ void QtCanvas::TakeBuffer() {
 
 void QtCanvas::Cls() {
   TakeBuffer();
-  FillRow(buffer_.Pixels, static_cast<int>(buffer_.PixelsPerRow * buffer_.Height), Background | 0xff000000u);
+  // Outside the written area the image is still all background.
+  const PixelArea& written = buffer_.Written;
+  const int firstColumn = std::max(written.Left, 0);
+  const int count = std::min(written.Right, buffer_.Width - 1) - firstColumn + 1;
+  const int lastRow = std::min(written.Bottom, buffer_.Height - 1);
+  for (int y = std::max(written.Top, 0); y <= lastRow; ++y) {
+    FillRow(buffer_.Pixels + y * buffer_.PixelsPerRow + firstColumn, count, Background | 0xff000000u);
+  }
+  buffer_.Written = {};
 }
 
 void QtCanvas::MeasureLineWidth() {
@@ -78,10 +87,13 @@ void QtCanvas::MeasureLineWidth() {
 
 void QtCanvas::FillPixels(int left, int top, int right, int bottom, uint32_t value) {
   const int firstColumn = std::max(left, 0);
-  const int count = std::min(right, buffer_.Width - 1) - firstColumn + 1;
+  const int lastColumn = std::min(right, buffer_.Width - 1);
+  const int firstRow = std::max(top, 0);
   const int lastRow = std::min(bottom, buffer_.Height - 1);
-  for (int y = std::max(top, 0); y <= lastRow; ++y) {
-    FillRow(buffer_.Pixels + y * buffer_.PixelsPerRow + firstColumn, count, value);
+  if (firstColumn > lastColumn || firstRow > lastRow) return;
+  buffer_.MarkWritten(firstColumn, firstRow, lastColumn, lastRow);
+  for (int y = firstRow; y <= lastRow; ++y) {
+    FillRow(buffer_.Pixels + y * buffer_.PixelsPerRow + firstColumn, lastColumn - firstColumn + 1, value);
   }
 }
 
@@ -140,6 +152,7 @@ void QtCanvas::PaintSlantedLine(double x1, double y1, double x2, double y2, QRgb
   painter.drawLine(QPointF(x1, y1), QPointF(x2, y2));
   painter.end();
   TakeBuffer();
+  buffer_.MarkWritten(0, 0, buffer_.Width - 1, buffer_.Height - 1);
 }
 
 void QtCanvas::Circle(double x, double y, double radius, double colour) {
@@ -177,6 +190,7 @@ void QtCanvas::PaintLargeCircle(double cx, double cy, double radius, QRgb outlin
   painter.drawEllipse(QPointF(cx + 0.5, cy + 0.5), radius, radius);
   painter.end();
   TakeBuffer();
+  buffer_.MarkWritten(0, 0, buffer_.Width - 1, buffer_.Height - 1);
 }
 
 void QtCanvas::Print(std::string_view text) {

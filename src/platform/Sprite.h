@@ -5,13 +5,23 @@
 // of short copies, far cheaper than a QPainter call per circle and per number.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <limits>
 #include <vector>
 
 class QImage;
 
 namespace keldor {
+
+// A rectangle of pixels, its edges included; empty while Right < Left.
+struct PixelArea {
+  int Left = std::numeric_limits<int>::max();
+  int Top = std::numeric_limits<int>::max();
+  int Right = -1;
+  int Bottom = -1;
+};
 
 // The pixels of an opaque RGB32 image, written directly.
 struct PixelBuffer {
@@ -19,6 +29,17 @@ struct PixelBuffer {
   std::ptrdiff_t PixelsPerRow = 0;
   int Width = 0;
   int Height = 0;
+  // Holds every pixel written since the image was last all background, so
+  // that clearing repaints only that part: zoomed out, the world fills a
+  // corner of the view. It may reach outside the image.
+  PixelArea Written;
+
+  void MarkWritten(int left, int top, int right, int bottom) {
+    Written.Left = std::min(Written.Left, left);
+    Written.Top = std::min(Written.Top, top);
+    Written.Right = std::max(Written.Right, right);
+    Written.Bottom = std::max(Written.Bottom, bottom);
+  }
 };
 
 class Sprite {
@@ -31,9 +52,10 @@ class Sprite {
   // Copies the inked pixels so that the anchor lands on pixel (x, y); parts
   // outside the buffer are clipped. Inline: a frame stamps a few hundred
   // thousand sprites, most of them a handful of pixels wholly inside.
-  void StampOnto(const PixelBuffer& target, int x, int y) const {
+  void StampOnto(PixelBuffer& target, int x, int y) const {
     const int left = x - anchorX_;
     const int top = y - anchorY_;
+    target.MarkWritten(left, top, left + width_ - 1, top + height_ - 1);
     if (left < 0 || top < 0 || left + width_ > target.Width || top + height_ > target.Height) {
       StampClipped(target, left, top);
       return;
