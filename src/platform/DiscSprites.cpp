@@ -27,7 +27,10 @@ Sprite DrawDisc(const DiscKey& key) {
 const Sprite& DiscSprites::Get(const DiscKey& key) {
   auto found = sprites_.find(key);
   if (found != sprites_.end()) return found->second;
-  if (sprites_.size() >= MaxEntries) sprites_.clear();
+  if (sprites_.size() >= MaxEntries) {
+    sprites_.clear();
+    ++generation_;
+  }
   return sprites_.emplace(key, DrawDisc(key)).first->second;
 }
 

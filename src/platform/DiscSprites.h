@@ -35,10 +35,13 @@ class DiscSprites {
   static constexpr double MaxRadius = 48;
 
   const Sprite& Get(const DiscKey& key);
+  // Changes whenever sprites handed out earlier are dropped.
+  uint64_t Generation() const { return generation_; }
 
  private:
   static constexpr size_t MaxEntries = 4096;
   std::unordered_map<DiscKey, Sprite, DiscKeyHash> sprites_;
+  uint64_t generation_ = 1;
 };
 
 }  // namespace keldor

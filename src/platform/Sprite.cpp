@@ -32,24 +32,24 @@ Sprite::Sprite(const QImage& image, int anchorX, int anchorY)
   }
 }
 
-void Sprite::StampOnto(const PixelBuffer& target, int x, int y) const {
-  const int left = x - anchorX_;
-  const int top = y - anchorY_;
+void Sprite::MeasureOffsets(std::ptrdiff_t pixelsPerRow) const {
+  offsets_.clear();
+  for (const Run& run : runs_) {
+    for (int i = 0; i < run.Length; ++i) offsets_.push_back(run.Y * pixelsPerRow + run.X + i);
+  }
+  offsetsPixelsPerRow_ = pixelsPerRow;
+}
+
+void Sprite::StampClipped(const PixelBuffer& target, int left, int top) const {
   if (left >= target.Width || top >= target.Height || left + width_ <= 0 || top + height_ <= 0) return;
-  const bool inside = left >= 0 && top >= 0 && left + width_ <= target.Width && top + height_ <= target.Height;
   for (const Run& run : runs_) {
     const int ty = top + run.Y;
-    int from = 0;
-    int to = run.Length;
-    if (!inside) {
-      if (ty < 0 || ty >= target.Height) continue;
-      from = std::max(0, -(left + run.X));
-      to = std::min(run.Length, target.Width - (left + run.X));
-      if (from >= to) continue;
-    }
+    if (ty < 0 || ty >= target.Height) continue;
+    const int from = std::max(0, -(left + run.X));
+    const int to = std::min(run.Length, target.Width - (left + run.X));
     uint32_t* dst = target.Pixels + ty * target.PixelsPerRow + left + run.X;
     const uint32_t* src = pixels_.data() + run.First;
-    for (int i = from; i < to; ++i) dst[i] = src[i];  // runs are a few pixels long
+    for (int i = from; i < to; ++i) dst[i] = src[i];
   }
 }
 

@@ -35,23 +35,26 @@ void TextSprites::ForgetAllIfFull() {
     style.ShortTexts.clear();
     style.LongTexts.clear();
   }
+  recent_.fill({});
   entries_ = 0;
 }
 
-const Sprite& TextSprites::Get(std::string_view text, QRgb colour, int pixelSize) {
-  const uint64_t styleKey = static_cast<uint64_t>(colour & 0xffffff) << 32 | static_cast<uint32_t>(pixelSize);
+const Sprite& TextSprites::Find(std::string_view text, QRgb colour, int pixelSize) {
+  const uint64_t styleKey = StyleKey(colour, pixelSize);
   if (style_ == nullptr || styleKey != styleKey_) {
     style_ = &styles_[styleKey];
     styleKey_ = styleKey;
   }
-  if (text.size() <= 7) {
-    uint64_t key = text.size();
-    for (char c : text) key = key << 8 | static_cast<unsigned char>(c);
+  if (text.size() <= MaxShortText) {
+    const uint64_t key = ShortTextKey(text);
     auto found = style_->ShortTexts.find(key);
-    if (found != style_->ShortTexts.end()) return found->second;
-    ForgetAllIfFull();
-    ++entries_;
-    return style_->ShortTexts.emplace(key, DrawText(text, colour, pixelSize)).first->second;
+    if (found == style_->ShortTexts.end()) {
+      ForgetAllIfFull();
+      ++entries_;
+      found = style_->ShortTexts.emplace(key, DrawText(text, colour, pixelSize)).first;
+    }
+    recent_[RecentSlot(key)] = {styleKey, key, &found->second};
+    return found->second;
   }
   const std::string key(text);
   auto found = style_->LongTexts.find(key);

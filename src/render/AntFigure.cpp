@@ -57,13 +57,16 @@ void DrawOnTerrain(const World& world, const ViewState& view, const Nest& nest, 
   }
   terrain.Pen.FillColor = ant.Colour;
   const double len = ant.Length;
-  const FigureCircle worker[3] = {{h, len / 5},
-                                  {{h.X - body.X * 11 / 28, h.Y - body.Y * 11 / 28}, len / 7},
-                                  {{r.X + body.X / 6, r.Y + body.Y / 6}, len / 6}};
-  const FigureCircle queenFigure[3] = {{h, len / 8},
-                                       {{h.X - body.X / 3, h.Y - body.Y / 3}, len / 5},
-                                       {{r.X + body.X / 4, r.Y + body.Y / 4}, len / 4 + std::sqrt(nest.FoodStore / Pi)}};
-  for (const FigureCircle& c : queen ? queenFigure : worker) circle(c, Black);
+  // Only the figure drawn is worked out: a frame draws tens of thousands of workers.
+  if (queen) {
+    circle({h, len / 8}, Black);
+    circle({{h.X - body.X / 3, h.Y - body.Y / 3}, len / 5}, Black);
+    circle({{r.X + body.X / 4, r.Y + body.Y / 4}, len / 4 + std::sqrt(nest.FoodStore / Pi)}, Black);
+  } else {
+    circle({h, len / 5}, Black);
+    circle({{h.X - body.X * 11 / 28, h.Y - body.Y * 11 / 28}, len / 7}, Black);
+    circle({{r.X + body.X / 6, r.Y + body.Y / 6}, len / 6}, Black);
+  }
 }
 
 }  // namespace

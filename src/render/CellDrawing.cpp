@@ -2,6 +2,7 @@
 
 #include "model/Numeric.h"
 #include "model/World.h"
+#include "render/NumberText.h"
 #include "render/ViewState.h"
 #include "render/ViewColours.h"
 
@@ -9,9 +10,9 @@ namespace keldor {
 
 void PrintCellScent(Canvas& canvas, double scent) {
   if (scent > 0) {
-    canvas.Print(CStr(Int(scent)));
+    canvas.Print(NumberText(Int(scent)).View());
   } else if (scent < 0) {
-    canvas.Print(CStr(Int(-scent)));
+    canvas.Print(NumberText(Int(-scent)).View());
   }
 }
 
@@ -42,7 +43,7 @@ void DrawCell(const World& world, const ViewState& view, const Cell& cell, Canva
   if (cell.Food == 0) PrintCellScent(terrain, cell.Scent);
   terrain.Pen.CurrentX = (x0 + 14 * size / 20) * zx;
   terrain.Pen.CurrentY = (y0 + 15 * size / 20) * zy;
-  terrain.Print(CStr(cell.AntCount));
+  terrain.Print(NumberText(cell.AntCount).View());
 }
 
 }  // namespace keldor

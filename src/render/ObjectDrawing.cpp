@@ -5,6 +5,7 @@
 #include "model/Numeric.h"
 #include "model/Queries.h"
 #include "model/World.h"
+#include "render/NumberText.h"
 #include "render/ViewState.h"
 #include "render/CellDrawing.h"
 #include "render/ViewColours.h"
@@ -40,9 +41,9 @@ void DrawWall(const ViewState& view, const WallShape& shape, Canvas& terrain, Ca
 // The scent of a nest's cell: Int(s) above 0, -Int(s) below 0.
 void PrintNestScent(Canvas& canvas, double scent) {
   if (scent > 0) {
-    canvas.Print(CStr(Int(scent)));
+    canvas.Print(NumberText(Int(scent)).View());
   } else if (scent < 0) {
-    canvas.Print(CStr(-Int(scent)));
+    canvas.Print(NumberText(-Int(scent)).View());
   }
 }
 
@@ -70,7 +71,7 @@ void DrawNest(const World& world, const ViewState& view, const Nest& nest, Canva
   PrintNestScent(terrain, cell.Scent);
   terrain.Pen.CurrentX = (gx + 14 * size / 20) * zx;
   terrain.Pen.CurrentY = (gy + 15 * size / 20) * zy;
-  terrain.Print(CStr(cell.AntCount));
+  terrain.Print(NumberText(cell.AntCount).View());
   terrain.Pen.ForeColor = Black;
 }
 
@@ -101,7 +102,9 @@ void DrawFoodPile(const World& world, const ViewState& view, const FoodPile& pil
   if (IsPointVisible(terrain.Pen.CurrentX, terrain.Pen.CurrentY, view.Terrain)) PrintNestScent(terrain, cell.Scent);
   terrain.Pen.CurrentX = ((pile.X - 1) * size + 14 * size / 20) * zx;
   terrain.Pen.CurrentY = ((pile.Y - 1) * size + 15 * size / 20) * zy;
-  if (IsPointVisible(terrain.Pen.CurrentX, terrain.Pen.CurrentY, view.Terrain)) terrain.Print(CStr(cell.AntCount));
+  if (IsPointVisible(terrain.Pen.CurrentX, terrain.Pen.CurrentY, view.Terrain)) {
+    terrain.Print(NumberText(cell.AntCount).View());
+  }
 }
 
 }  // namespace

@@ -50,10 +50,24 @@ struct ViewState {
 
 // True when (x, y) lies strictly inside the scale rectangle, every value
 // compared in single precision.
-bool IsPointVisible(double x, double y, const ViewScale& view);
+inline bool IsPointVisible(double x, double y, const ViewScale& view) {
+  const float fx = static_cast<float>(x);
+  const float fy = static_cast<float>(y);
+  const float left = static_cast<float>(view.Left);
+  const float top = static_cast<float>(view.Top);
+  const float right = static_cast<float>(view.Left) + static_cast<float>(view.Width);
+  const float bottom = static_cast<float>(view.Top) + static_cast<float>(view.Height);
+  return fx > left && right > fx && fy > top && bottom > fy;
+}
 
 // True when any of the points is visible: the culling test of every shape.
-bool AnyPointVisible(const ViewScale& view, std::initializer_list<WorldPoint> points);
+// Inline, as it runs for every cell and every ant.
+inline bool AnyPointVisible(const ViewScale& view, std::initializer_list<WorldPoint> points) {
+  for (const WorldPoint& p : points) {
+    if (IsPointVisible(p.X, p.Y, view)) return true;
+  }
+  return false;
+}
 
 // The cell column and row under a terrain-view point, not clamped: a point
 // left of or above the world gives 0 or less, one beyond it GridX+1 or more.

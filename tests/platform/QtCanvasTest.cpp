@@ -37,14 +37,14 @@ void ExpectPixels(const QtCanvas& canvas, std::initializer_list<std::tuple<int, 
 }
 
 TEST(QtCanvasTest, ClearsToTheBackgroundAtEverySize) {
-  QtCanvas canvas(40, 30);
-  canvas.Pen.FillColor = Red;
-  canvas.Box(0, 0, 300, 300, Red);
+  QtCanvas canvas(40, 30);  // 15 twips per pixel
+  canvas.Box(450, 300, 585, 435, Red);  // pixels 30..39 by 20..29
+  canvas.Circle(75, 75, 30, Blue);  // radius 2 round pixel (5, 5), filled black
   canvas.Cls();
-  ExpectPixels(canvas, {{0, 0, Background}, {20, 15, Background}, {39, 29, Background}});
-  canvas.Resize(64, 48);
-  EXPECT_EQ(canvas.Image().size(), QSize(64, 48));
-  EXPECT_EQ(Pixel(canvas, 63, 47), Background);
+  ExpectPixels(canvas, {{5, 5, Background}, {30, 20, Background}, {39, 29, Background}});
+  canvas.Resize(64, 48);  // longer rows: the cached disc must still land round its centre
+  canvas.Circle(600, 450, 30, Blue);  // pixel (40, 30)
+  ExpectPixels(canvas, {{40, 30, qRgb(0, 0, 0)}, {40, 27, Background}, {63, 47, Background}});
 }
 
 TEST(QtCanvasTest, BoxesLandWhereTheScaleSays) {
