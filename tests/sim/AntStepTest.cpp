@@ -63,11 +63,11 @@ struct StepRig {
   void SetCross(int x, int y, const std::array<double, 5>& scents) {
     for (int k = 0; k < 5; ++k) CrossCell(x, y, k).Scent = scents[static_cast<size_t>(k)];
   }
-  void AddBrick(int x, int y) { {
+  void AddBrick(int x, int y) {
     WallObject brick;
     brick.TypeName = PlasterBrickType;
     cell(x, y).Objects.Add(brick);
-  } }
+  }
   void Step(int antIndex = 1) { StepAnt(world, random, 0, antIndex, world.Settings.NestScentMax); }
 };
 
@@ -126,6 +126,20 @@ TEST(AntStepForward, EachConditionAndEachScentRuleDecidesAlone) {
     if (c.brickAhead) rig.AddBrick(4, 3);
     rig.Step();
     EXPECT_EQ(std::tuple(rig.worker().HeadX, rig.worker().HeadY), std::tuple(c.endX, c.endY)) << c.what;
+  }
+}
+
+TEST(AntStepMoves, DeliveryAndFeedingNeedTheHeadStrictlyInsideTheNest) {
+  for (const auto& [radius, delivered] : {std::pair{5.0, false}, {5.000001, true}}) {
+    StepRig rig;
+    Nest& nest = rig.world.Nests[0];
+    std::tie(nest.Radius, nest.AntUnit, nest.FoodStore) = std::tuple(radius, 30, 10);
+    rig.PlaceWorker(45, 44, 45, 45, 15);
+    rig.Step();  // the head ends at (45, 45.5), in its cell: 10 * 0.5 = 5 body units from the centre
+    EXPECT_EQ(rig.worker().Load, delivered ? 0 : 15) << radius;
+    EXPECT_EQ(rig.worker().Energy, delivered ? 125 : 100) << "eats the store of 10 + 15, below 5 * 30 - 100";
+    EXPECT_EQ(nest.FoodStore, delivered ? 0 : 10);
+    EXPECT_EQ(rig.cell(5, 5).Scent, delivered ? -250 : 0) << "the nest cell is marked";
   }
 }
 
