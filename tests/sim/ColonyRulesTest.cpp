@@ -6,9 +6,9 @@
 #include <tuple>
 
 #include "RuleWorld.h"
-#include "sim/NeighbourSearch.h"
 #include "sim/Births.h"
 #include "sim/Encounters.h"
+#include "sim/NeighbourSearch.h"
 #include "sim/Upkeep.h"
 #include "support/ScriptedDraws.h"
 
@@ -160,10 +160,12 @@ TEST(NestTool, ARemovedNestLeavesItsStoreAndLoadsOnItsCellUpToCapacity) {
     std::tie(world.Nests[0].Ants[2].Energy, world.Nests[0].Ants[2].Load) = std::tuple(0, 60);  // dead, with a load
     --world.Cells(10, 10).AntCount;
     --world.Settings.Population;
+    ASSERT_NE(AppendFoodPile(world, rule.random, 10, 4, 77), nullptr);  // same column, another cell
     RemoveNestAt(world, rule.random, 10, 10);
     EXPECT_TRUE(world.NestCount == 0 && world.Settings.Population == 0 && world.Cells(10, 10).AntCount == 0);
-    ASSERT_EQ(world.FoodPileCount(), 1);
-    EXPECT_NEAR(world.FoodPiles[0].Amount, c.pileAfter, 1e-6) << c.store;
+    ASSERT_EQ(world.FoodPileCount(), 2);
+    EXPECT_EQ(world.FoodPiles[0].Amount, 77) << "a pile elsewhere keeps its food";
+    EXPECT_NEAR(world.FoodPiles[1].Amount, c.pileAfter, 1e-6) << c.store;
     EXPECT_NEAR(world.Cells(10, 10).Food, c.foodAfter, 1e-6) << c.store;
   }
 }
