@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <system_error>
 #include <thread>
 #include <vector>
 
@@ -73,9 +74,18 @@ class NearbyEncounters {
     std::vector<BitePair> firstBites;
     std::vector<BitePair> laterBites;
     if (biters.size() >= minBitersForTwoThreads_) {
-      std::thread helper([&] { FindBites(half, biters.end(), laterBites); });
+      std::thread helper;
+      try {
+        helper = std::thread([&] { FindBites(half, biters.end(), laterBites); });
+      } catch (const std::system_error&) {
+        // No thread to spare: this one finds both halves.
+      }
       FindBites(biters.begin(), half, firstBites);
-      helper.join();
+      if (helper.joinable()) {
+        helper.join();
+      } else {
+        FindBites(half, biters.end(), laterBites);
+      }
     } else {
       FindBites(biters.begin(), biters.end(), firstBites);
     }
