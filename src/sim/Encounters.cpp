@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <system_error>
 #include <thread>
 #include <vector>
 
@@ -74,18 +73,9 @@ class NearbyEncounters {
     std::vector<BitePair> firstBites;
     std::vector<BitePair> laterBites;
     if (biters.size() >= minBitersForTwoThreads_) {
-      std::thread helper;
-      try {
-        helper = std::thread([&] { FindBites(half, biters.end(), laterBites); });
-      } catch (const std::system_error&) {
-        // No thread to spare: this one finds both halves.
-      }
+      std::thread helper([&] { FindBites(half, biters.end(), laterBites); });
       FindBites(biters.begin(), half, firstBites);
-      if (helper.joinable()) {
-        helper.join();
-      } else {
-        FindBites(half, biters.end(), laterBites);
-      }
+      helper.join();
     } else {
       FindBites(biters.begin(), biters.end(), firstBites);
     }
