@@ -31,8 +31,6 @@ class CellGrid {
   // Column x: its cells (x, 0) .. (x, GridY + 1) lie next to each other.
   Cell* Column(int x) { return &cells_[Index(x, 0)]; }
   const Cell& operator()(int x, int y) const { return cells_[Index(x, y)]; }
-  // A hint that cell (x, y) will be read soon; changes nothing.
-  void Prefetch(int x, int y) const { __builtin_prefetch(&cells_[Index(x, y)]); }
 
  private:
   size_t Index(int x, int y) const {

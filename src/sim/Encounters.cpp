@@ -97,15 +97,7 @@ class NearbyEncounters {
   void FindBites(std::vector<AntRef>::const_iterator first, std::vector<AntRef>::const_iterator last,
                  std::vector<BitePair>& bites) const {
     std::vector<int> firstTouch(static_cast<size_t>(world_.NestCount));
-    for (auto biter = first; biter != last; ++biter) {
-      // The biter's cell is read only now and then, but then it is rarely
-      // in the nearest caches: ask for it some biters ahead.
-      if (last - biter > PrefetchDistance) {
-        const Ant& ahead = world_.Nests[static_cast<size_t>(biter[PrefetchDistance].Nest)].Ants[biter[PrefetchDistance].Ant];
-        world_.Cells.Prefetch(ahead.CellX, ahead.CellY);
-      }
-      FindVictims(biter->Nest, biter->Ant, firstTouch, bites);
-    }
+    for (auto biter = first; biter != last; ++biter) FindVictims(biter->Nest, biter->Ant, firstTouch, bites);
   }
 
   // Ant i of nest n bites the first ant its head touches in each rival
@@ -157,7 +149,6 @@ class NearbyEncounters {
     }
   }
 
-  static constexpr int PrefetchDistance = 8;
   static constexpr int NotRival = -1;  // below every ant number: nothing to test
   static constexpr int Untouched = std::numeric_limits<int>::max();
 

@@ -25,9 +25,9 @@ constexpr int PrefetchDistance = 4;
 void PrefetchCellsAround(const World& world, const Ant& ant) {
   const int x = std::clamp<int>(ant.CellX, 1, world.Settings.GridX);
   const int y = std::clamp<int>(ant.CellY, 1, world.Settings.GridY);
-  world.Cells.Prefetch(x, y);
-  world.Cells.Prefetch(x - 1, y);
-  world.Cells.Prefetch(x + 1, y);
+  __builtin_prefetch(&world.Cells(x, y));
+  __builtin_prefetch(&world.Cells(x - 1, y));
+  __builtin_prefetch(&world.Cells(x + 1, y));
 }
 
 // Draws every ant (while ants are shown) and steps the living ones.
