@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <thread>
 #include <vector>
 
 #include "model/Numeric.h"
@@ -46,7 +45,7 @@ class NearbyEncounters {
         index_(search.Index),
         living_(MeasureLivingAnts(world)),
         rivals_(search.Rivals),
-        minBitersForTwoThreads_(search.MinBitersForTwoThreads) {
+        firstTouch_(static_cast<size_t>(world.NestCount)) {
     rivals_.Reset(world, index_, living_.Share / world.Settings.ScaleX + std::sqrt(living_.SquaredSpan));
     queenReach_.reserve(static_cast<size_t>(world.NestCount));
     for (int n = 0; n < world.NestCount; ++n) {
@@ -55,65 +54,22 @@ class NearbyEncounters {
     }
   }
 
-  // Every bite of the phase, biter by biter in scan order. A bite never
-  // kills (it leaves at least 1 energy) and moves nobody, so who touches whom
-  // does not depend on the bites before: large worlds find the bites of the
-  // two halves of the scan on two threads, then apply them all in order.
-  void ResolveAll() {
-    std::vector<AntRef> biters;
-    for (int n = 0; n < world_.NestCount; ++n) {
-      if (!rivals_.MayMeetRival(n)) continue;
-      const Nest& nest = world_.Nests[static_cast<size_t>(n)];
-      for (int i = 0; i < nest.AntCount(); ++i) {
-        if (nest.Ants[i].Energy > 0) biters.push_back({static_cast<int16_t>(n), static_cast<int16_t>(i)});
-      }
-    }
-    if (!biters.empty()) rivals_.SummariseCells();
-    const auto half = biters.begin() + static_cast<std::ptrdiff_t>(biters.size() / 2);
-    std::vector<BitePair> firstBites;
-    std::vector<BitePair> laterBites;
-    if (biters.size() >= minBitersForTwoThreads_) {
-      std::thread helper([&] { FindBites(half, biters.end(), laterBites); });
-      FindBites(biters.begin(), half, firstBites);
-      helper.join();
-    } else {
-      FindBites(biters.begin(), biters.end(), firstBites);
-    }
-    for (const auto* bites : {&firstBites, &laterBites}) {
-      for (const BitePair& bite : *bites) {
-        const Ant& biter = world_.Nests[static_cast<size_t>(bite.Biter.Nest)].Ants[bite.Biter.Ant];
-        Bite(world_, world_.Cells(biter.CellX, biter.CellY), world_.Nests[static_cast<size_t>(bite.Biter.Nest)], biter,
-             world_.Nests[static_cast<size_t>(bite.Victim.Nest)].Ants[bite.Victim.Ant]);
-      }
-    }
-  }
-
- private:
-  struct BitePair {
-    AntRef Biter;
-    AntRef Victim;
-  };
-
-  void FindBites(std::vector<AntRef>::const_iterator first, std::vector<AntRef>::const_iterator last,
-                 std::vector<BitePair>& bites) const {
-    std::vector<int> firstTouch(static_cast<size_t>(world_.NestCount));
-    for (auto biter = first; biter != last; ++biter) FindVictims(biter->Nest, biter->Ant, firstTouch, bites);
-  }
+  bool MayMeetRival(int nest) const { return rivals_.MayMeetRival(nest); }
 
   // Ant i of nest n bites the first ant its head touches in each rival
   // colony: the lowest-numbered one, as a scan in ant order meets them.
-  void FindVictims(int nestIndex, int antIndex, std::vector<int>& firstTouch, std::vector<BitePair>& bites) const {
+  void Resolve(Cell& cell, int nestIndex, int antIndex) {
     const int nestCount = world_.NestCount;
     const Nest& nest = world_.Nests[static_cast<size_t>(nestIndex)];
     const Ant& biter = nest.Ants[antIndex];
     // Both tests are pure; the rival summary is the cheaper read.
     if (!rivals_.MayHoldRival(index_.CellSlotAt(biter.HeadX, biter.HeadY), nestIndex)) return;
-    if (world_.Cells(biter.CellX, biter.CellY).AntCount < 3) return;
+    if (cell.AntCount < 3) return;
     const double scaleX = world_.Settings.ScaleX;
     const double biterShare = ReachShare(biter, antIndex) / 2 / scaleX;
     for (int m = 0; m < nestCount; ++m) {
       const Nest& other = world_.Nests[static_cast<size_t>(m)];
-      int& first = firstTouch[static_cast<size_t>(m)];
+      int& first = firstTouch_[static_cast<size_t>(m)];
       first = other.Signature == nest.Signature ? NotRival : Untouched;
       if (first == NotRival || other.AntCount() == 0) continue;
       const Ant& queen = other.Ants[0];
@@ -130,7 +86,7 @@ class NearbyEncounters {
       // A run lists its nest's ants in rising order: once past the first
       // touch, or in a nest that is no rival, the rest of it can be skipped.
       const AntRef ref = near.Ref;
-      int& first = firstTouch[static_cast<size_t>(ref.Nest)];
+      int& first = firstTouch_[static_cast<size_t>(ref.Nest)];
       if (ref.Ant >= first) return false;
       if (ref.Ant == 0) return true;
       if (std::abs(near.HeadX - biter.HeadX) > paddedReach || std::abs(near.HeadY - biter.HeadY) > paddedReach) {
@@ -142,13 +98,13 @@ class NearbyEncounters {
       return false;
     });
     for (int m = 0; m < nestCount; ++m) {
-      const int victim = firstTouch[static_cast<size_t>(m)];
+      const int victim = firstTouch_[static_cast<size_t>(m)];
       if (victim == NotRival || victim == Untouched) continue;
-      bites.push_back({{static_cast<int16_t>(nestIndex), static_cast<int16_t>(antIndex)},
-                       {static_cast<int16_t>(m), static_cast<int16_t>(victim)}});
+      Bite(world_, cell, nest, biter, world_.Nests[static_cast<size_t>(m)].Ants[victim]);
     }
   }
 
+ private:
   static constexpr int NotRival = -1;  // below every ant number: nothing to test
   static constexpr int Untouched = std::numeric_limits<int>::max();
 
@@ -191,8 +147,8 @@ class NearbyEncounters {
   const AntIndex& index_;
   LivingAnts living_;
   RivalNeighbourhood& rivals_;
-  size_t minBitersForTwoThreads_;
   std::vector<double> queenReach_;  // per nest: the queen's share of a touch reach plus her span
+  std::vector<int> firstTouch_;  // per nest: the first touched ant so far, Untouched or NotRival
 };
 
 }  // namespace
@@ -226,7 +182,15 @@ void ResolveEncounters(World& world, NeighbourSearch* search) {
     }
     return;
   }
-  NearbyEncounters(world, *search).ResolveAll();
+  NearbyEncounters encounters(world, *search);
+  for (int n = 0; n < nestCount; ++n) {
+    if (!encounters.MayMeetRival(n)) continue;
+    Nest& nest = world.Nests[static_cast<size_t>(n)];
+    for (int i = 0; i < nest.AntCount(); ++i) {
+      const Ant& ant = nest.Ants[i];
+      if (ant.Energy > 0) encounters.Resolve(world.Cells(ant.CellX, ant.CellY), n, i);
+    }
+  }
 }
 
 }  // namespace keldor

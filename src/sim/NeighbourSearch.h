@@ -3,8 +3,6 @@
 // arrays instead of allocating (and faulting in) fresh memory each tick.
 #pragma once
 
-#include <cstddef>
-
 #include "sim/AntIndex.h"
 #include "sim/RivalNeighbourhood.h"
 
@@ -13,9 +11,6 @@ namespace keldor {
 struct NeighbourSearch {
   AntIndex Index;
   RivalNeighbourhood Rivals;
-  // From this many biters on, encounters are found on two threads; below
-  // it a second thread costs more than it saves. The bites are the same.
-  size_t MinBitersForTwoThreads = 4096;
 };
 
 }  // namespace keldor

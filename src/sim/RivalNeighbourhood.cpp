@@ -1,7 +1,6 @@
 #include "sim/RivalNeighbourhood.h"
 
 #include <algorithm>
-#include <atomic>
 #include <cmath>
 #include <limits>
 #include <string_view>
@@ -15,6 +14,7 @@ namespace keldor {
 void RivalNeighbourhood::Reset(const World& world, const AntIndex& index, double reach) {
   index_ = &index;
   reach_ = PaddedReach(reach, index.CellSize());
+  cellsSummarised_ = false;
   cellsOfReach_ = 0;
   std::unordered_map<std::string_view, int> colonyOf;
   colonyOfNest_.clear();
@@ -46,19 +46,17 @@ void RivalNeighbourhood::Reset(const World& world, const AntIndex& index, double
   }
 }
 
-bool RivalNeighbourhood::MayHoldRival(size_t slot, int nest) const {
+bool RivalNeighbourhood::MayHoldRival(size_t slot, int nest) {
+  if (!cellsSummarised_) SummariseCells();
   if (cellsOfReach_ == 0) return true;
-  const std::atomic_ref<uint64_t> cached(nearColonies_[slot]);
-  uint64_t near = cached.load(std::memory_order_relaxed);
-  if ((near & Summed) == 0) {
-    near = Summed | NearbyColonies(slot);
-    cached.store(near, std::memory_order_relaxed);
-  }
+  uint64_t& near = nearColonies_[slot];
+  if ((near & Summed) == 0) near = Summed | NearbyColonies(slot);
   const uint64_t own = uint64_t{1} << colonyOfNest_[static_cast<size_t>(nest)];
   return (near & ~Summed & ~own) != 0;
 }
 
 void RivalNeighbourhood::SummariseCells() {
+  cellsSummarised_ = true;
   // One more cell than the reach spans: a head lies anywhere in its cell.
   const double cellsOfReach = std::ceil(reach_ / index_->CellSize()) + 1;
   if (colonies_ > MaxColonyBits || !(cellsOfReach <= MaxCellsOfReach)) return;

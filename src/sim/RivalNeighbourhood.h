@@ -31,14 +31,9 @@ class RivalNeighbourhood {
   // living ant of nest n.
   bool MayMeetRival(int nest) const { return !isolated_[static_cast<size_t>(colonyOfNest_[static_cast<size_t>(nest)])]; }
 
-  // Makes the per-cell summary, once any biter may meet a rival.
-  void SummariseCells();
-
   // False when no living ant of a colony other than nest n's has its head
-  // within reach of any point of the cell slot. Several threads may ask at
-  // once: each slot's neighbourhood is summed up on first use, and two
-  // threads summing the same slot store the same bits.
-  bool MayHoldRival(size_t slot, int nest) const;
+  // within reach of any point of the cell slot.
+  bool MayHoldRival(size_t slot, int nest);
 
  private:
   struct Box {
@@ -49,6 +44,7 @@ class RivalNeighbourhood {
   static constexpr uint64_t Summed = uint64_t{1} << 63;  // the slot's neighbourhood is summed up
   static constexpr int MaxCellsOfReach = 8;
 
+  void SummariseCells();
   // The colonies of the slots within cellsOfReach_ of the slot, both ways.
   uint64_t NearbyColonies(size_t slot) const;
 
@@ -57,9 +53,10 @@ class RivalNeighbourhood {
   int colonies_ = 0;
   std::vector<int> colonyOfNest_;
   std::vector<bool> isolated_;          // per colony
+  bool cellsSummarised_ = false;
   int cellsOfReach_ = 0;                // 0: no cell summary
   std::vector<uint64_t> cellColonies_;  // per cell slot: the colonies with a head in it
-  mutable std::vector<uint64_t> nearColonies_;  // per cell slot: Summed and the nearby colonies, once asked
+  std::vector<uint64_t> nearColonies_;  // per cell slot: Summed and the nearby colonies, once asked
 };
 
 }  // namespace keldor

@@ -109,11 +109,9 @@ TEST(AntIndex, IndexedTicksMatchFullScansOnRandomWorlds) {
 
 // Four big colonies side by side: rivals and queens meet in crowded cells.
 // Their ants are half as long as New's, so the first nest sets the reach.
-// The bites are found on two threads whenever there are two biters.
 TEST(AntIndex, IndexedTicksMatchFullScansInACrowdedWorld) {
   for (uint64_t seed = 1; seed <= 2 && !::testing::Test::HasFatalFailure(); ++seed) {
     ExpectIndexChangesNothing(seed, 60, [](TickRig& rig) {
-      rig.context.Search.MinBitersForTwoThreads = 2;
       rig.world().Settings.AntsPerNest = 480;
       rig.world().Settings.AntSizeMm = 1.5;
       for (const auto& [x, y] : {std::pair{14, 14}, {15, 14}, {14, 15}, {15, 15}}) rig.AddNestAt(x, y);

@@ -33,7 +33,6 @@ TEST(RivalNeighbourhood, SeesRivalsWithinReachAndNothingBeyond) {
     rival.HeadY = c.rivalY;
     const AntIndex index(world);
     RivalNeighbourhood rivals(world, index, 50);
-    rivals.SummariseCells();
     EXPECT_EQ(rivals.MayHoldRival(index.CellSlotAt(own.HeadX, own.HeadY), 0), c.mayHold) << c.rivalX << "," << c.rivalY;
   }
 }
