@@ -6,7 +6,6 @@
 
 #include <cassert>
 #include <cstdint>
-#include <string_view>
 #include <vector>
 
 #include "model/Numeric.h"

@@ -1,5 +1,6 @@
 #include "model/Numeric.h"
 
+#include <algorithm>
 #include <cctype>
 #include <charconv>
 #include <cmath>
@@ -58,16 +59,20 @@ double ToNumber(std::string_view text) {
   return std::strtod(s.c_str(), nullptr);
 }
 
-std::string CStr(double v) {
-  if (v == 0.0) return "0";  // also folds -0
-  char buf[64];
-  // Whole numbers (the views print thousands per frame) without printf.
+std::string_view CStrInto(double v, char (&buffer)[CStrCapacity]) {
+  // Whole numbers (the views print thousands per frame) without printf; -0
+  // is written "0" like 0.
   if (std::fabs(v) < 1e15 && v == std::trunc(v)) {
-    const auto end = std::to_chars(buf, buf + sizeof buf, static_cast<int64_t>(v)).ptr;
-    return std::string(buf, end);
+    const auto end = std::to_chars(buffer, buffer + CStrCapacity, static_cast<int64_t>(v)).ptr;
+    return {buffer, static_cast<size_t>(end - buffer)};
   }
-  std::snprintf(buf, sizeof buf, "%.15g", v);
-  return buf;
+  const int length = std::snprintf(buffer, CStrCapacity, "%.15g", v);
+  return {buffer, static_cast<size_t>(std::clamp(length, 0, static_cast<int>(CStrCapacity) - 1))};
+}
+
+std::string CStr(double v) {
+  char buffer[CStrCapacity];
+  return std::string(CStrInto(v, buffer));
 }
 
 namespace {

@@ -61,6 +61,12 @@ double ToNumber(std::string_view text);
 // Decimal text of a number without a leading space: 30, 3, 0.5, -1.25.
 std::string CStr(double v);
 
+// Room for any text CStr writes, its terminating zero included.
+inline constexpr size_t CStrCapacity = 32;
+// The same text written into buffer, without allocating; returns the text,
+// which lies in the buffer.
+std::string_view CStrInto(double v, char (&buffer)[CStrCapacity]);
+
 // Format with the two patterns the system uses:
 //   "#.0"  exactly one decimal, no leading zero below 1 (0.7 -> ".7", 2 -> "2.0")
 //   "#.##" up to two decimals, the point always kept (1.1 -> "1.1", 2 -> "2.")

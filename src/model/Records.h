@@ -19,7 +19,8 @@
 
 namespace keldor {
 
-// The fields an ant step reads come first, so that they share a cache line.
+// The fields an ant step reads (scent, signature, ant count and, at the
+// start of Objects, the brick count) come first, so that they lie together.
 struct Cell {
   double Scent = 0;  // > 0 food scent, < 0 nest scent
   keldor::Signature Signature;  // empty in a new world; "0000000000000000" once unmarked

@@ -10,17 +10,16 @@ void AntIndex::Rebuild(const World& world) {
   columns_ = world.Settings.GridX + 2;
   rows_ = world.Settings.GridY + 2;
   constexpr int dead = -1;
-  std::vector<int>& slotOfAnt = slotOfAnt_;
-  slotOfAnt.clear();
+  slotOfAnt_.clear();
   cellStart_.assign(static_cast<size_t>(columns_) * static_cast<size_t>(rows_) + 1, 0);
   for (int n = 0; n < world.NestCount; ++n) {
     for (const Ant& ant : world.Nests[static_cast<size_t>(n)].Ants) {
       if (!(ant.Energy > 0)) {
-        slotOfAnt.push_back(dead);
+        slotOfAnt_.push_back(dead);
         continue;
       }
       const size_t slot = CellSlot(Column(ant.HeadX), Row(ant.HeadY));
-      slotOfAnt.push_back(static_cast<int>(slot));
+      slotOfAnt_.push_back(static_cast<int>(slot));
       ++cellStart_[slot];
     }
   }
@@ -28,16 +27,15 @@ void AntIndex::Rebuild(const World& world) {
   // last ant backwards moves it to the start of c and keeps scan order.
   for (size_t c = 1; c < cellStart_.size(); ++c) cellStart_[c] += cellStart_[c - 1];
   ants_.resize(static_cast<size_t>(cellStart_.back()));
-  std::vector<int>& slotOfEntry = slotOfEntry_;
-  slotOfEntry.resize(ants_.size());
-  size_t k = slotOfAnt.size();
+  slotOfEntry_.resize(ants_.size());
+  size_t k = slotOfAnt_.size();
   for (int n = world.NestCount - 1; n >= 0; --n) {
     const Nest& nest = world.Nests[static_cast<size_t>(n)];
     for (int a = nest.AntCount() - 1; a >= 0; --a) {
-      const int slot = slotOfAnt[--k];
+      const int slot = slotOfAnt_[--k];
       if (slot == dead) continue;
       const int at = --cellStart_[static_cast<size_t>(slot)];
-      slotOfEntry[static_cast<size_t>(at)] = slot;
+      slotOfEntry_[static_cast<size_t>(at)] = slot;
       ants_[static_cast<size_t>(at)] = {{static_cast<int16_t>(n), static_cast<int16_t>(a)}, 0, nest.Ants[a].HeadX,
                                         nest.Ants[a].HeadY};
     }
@@ -46,7 +44,7 @@ void AntIndex::Rebuild(const World& world) {
   for (int i = static_cast<int>(ants_.size()) - 1; i >= 0; --i) {
     const size_t at = static_cast<size_t>(i);
     IndexedAnt& ant = ants_[at];
-    const bool runGoesOn = at + 1 < ants_.size() && slotOfEntry[at + 1] == slotOfEntry[at] &&
+    const bool runGoesOn = at + 1 < ants_.size() && slotOfEntry_[at + 1] == slotOfEntry_[at] &&
                            ants_[at + 1].Ref.Nest == ant.Ref.Nest;
     ant.RunEnd = runGoesOn ? ants_[at + 1].RunEnd : i + 1;
   }

@@ -207,9 +207,8 @@ void StepForward(World& world, RandomSource& random, int nestIndex, int antIndex
 // A refused step: back off one step, or, where that cell is off the grid or
 // walled, stay where the step began (the turn undone).
 void BackOff(World& world, RandomSource& random, int nestIndex, int antIndex, const WorkerStep& step,
-             const Ant& before, int16_t nestTrace) {
+             const CellFinder& cellOf, const Ant& before, int16_t nestTrace) {
   Ant& ant = world.Nests[static_cast<size_t>(nestIndex)].Ants[antIndex];
-  const CellFinder cellOf(world.Settings.CellSize);
   const int bx = cellOf(ant.HeadX - step.DX);
   const int by = cellOf(ant.HeadY - step.DY);
   if (InGrid(world, bx, by) && !IsBrick(world, bx, by)) {
@@ -250,7 +249,7 @@ void StepWorker(World& world, RandomSource& random, int nestIndex, int antIndex,
   if (MayStepForward(world, nestTrace, nest, ant, step.CurrentX, step.CurrentY, step.TargetX, step.TargetY)) {
     StepForward(world, random, nestIndex, antIndex, step, nestTrace);
   } else {
-    BackOff(world, random, nestIndex, antIndex, step, before, nestTrace);
+    BackOff(world, random, nestIndex, antIndex, step, cellOf, before, nestTrace);
   }
   if (step.TargetX == step.CurrentX && step.TargetY == step.CurrentY) {
     DeliverAndFeed(world, nest, ant, world.Cells(step.CurrentX, step.CurrentY));
