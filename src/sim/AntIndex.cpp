@@ -9,44 +9,47 @@ void AntIndex::Rebuild(const World& world) {
   inverseCellSize_ = 1 / world.Settings.CellSize;
   columns_ = world.Settings.GridX + 2;
   rows_ = world.Settings.GridY + 2;
-  constexpr int dead = -1;
-  slotOfAnt_.clear();
+  extents_ = {};
+  scanned_.clear();
   cellStart_.assign(static_cast<size_t>(columns_) * static_cast<size_t>(rows_) + 1, 0);
+  // One pass over the ant records; the rest of the build reads scanned_.
   for (int n = 0; n < world.NestCount; ++n) {
-    for (const Ant& ant : world.Nests[static_cast<size_t>(n)].Ants) {
-      if (!(ant.Energy > 0)) {
-        slotOfAnt_.push_back(dead);
-        continue;
-      }
+    const Nest& nest = world.Nests[static_cast<size_t>(n)];
+    for (int a = 0; a < nest.AntCount(); ++a) {
+      const Ant& ant = nest.Ants[a];
+      if (!(ant.Energy > 0)) continue;
       const size_t slot = CellSlot(Column(ant.HeadX), Row(ant.HeadY));
-      slotOfAnt_.push_back(static_cast<int>(slot));
       ++cellStart_[slot];
+      scanned_.push_back({{static_cast<int16_t>(n), static_cast<int16_t>(a)}, static_cast<int32_t>(slot), ant.HeadX,
+                          ant.HeadY});
+      const double dx = ant.HeadX - ant.RearX;
+      const double dy = ant.HeadY - ant.RearY;
+      const double squaredSpan = dx * dx + dy * dy;
+      extents_.SquaredSpan = std::max(extents_.SquaredSpan, squaredSpan);
+      if (a == 0) {
+        extents_.QueenLength = std::max(extents_.QueenLength, ant.Length);
+      } else {
+        extents_.WorkerLength = std::max(extents_.WorkerLength, ant.Length);
+        extents_.WorkerSquaredSpan = std::max(extents_.WorkerSquaredSpan, squaredSpan);
+      }
     }
   }
   // Running totals make cellStart_[c] the end of cell c; filling from the
   // last ant backwards moves it to the start of c and keeps scan order.
   for (size_t c = 1; c < cellStart_.size(); ++c) cellStart_[c] += cellStart_[c - 1];
-  ants_.resize(static_cast<size_t>(cellStart_.back()));
-  slotOfEntry_.resize(ants_.size());
-  size_t k = slotOfAnt_.size();
-  for (int n = world.NestCount - 1; n >= 0; --n) {
-    const Nest& nest = world.Nests[static_cast<size_t>(n)];
-    for (int a = nest.AntCount() - 1; a >= 0; --a) {
-      const int slot = slotOfAnt_[--k];
-      if (slot == dead) continue;
-      const int at = --cellStart_[static_cast<size_t>(slot)];
-      slotOfEntry_[static_cast<size_t>(at)] = slot;
-      ants_[static_cast<size_t>(at)] = {{static_cast<int16_t>(n), static_cast<int16_t>(a)}, 0, nest.Ants[a].HeadX,
-                                        nest.Ants[a].HeadY};
-    }
+  ants_.resize(scanned_.size());
+  for (size_t k = scanned_.size(); k-- > 0;) {
+    const IndexedAnt& ant = scanned_[k];
+    ants_[static_cast<size_t>(--cellStart_[static_cast<size_t>(ant.RunEnd)])] = ant;
   }
-  // A run ends where the next ant belongs to another nest or another cell.
-  for (int i = static_cast<int>(ants_.size()) - 1; i >= 0; --i) {
-    const size_t at = static_cast<size_t>(i);
-    IndexedAnt& ant = ants_[at];
-    const bool runGoesOn = at + 1 < ants_.size() && slotOfEntry_[at + 1] == slotOfEntry_[at] &&
-                           ants_[at + 1].Ref.Nest == ant.Ref.Nest;
-    ant.RunEnd = runGoesOn ? ants_[at + 1].RunEnd : i + 1;
+  // A run ends where the next ant of its cell belongs to another nest.
+  for (size_t c = 0; c + 1 < cellStart_.size(); ++c) {
+    const int start = cellStart_[c];
+    for (int i = cellStart_[c + 1] - 1; i >= start; --i) {
+      IndexedAnt& ant = ants_[static_cast<size_t>(i)];
+      const bool runGoesOn = i + 1 < cellStart_[c + 1] && ants_[static_cast<size_t>(i) + 1].Ref.Nest == ant.Ref.Nest;
+      ant.RunEnd = runGoesOn ? ants_[static_cast<size_t>(i) + 1].RunEnd : i + 1;
+    }
   }
 }
 

@@ -29,6 +29,16 @@ struct IndexedAnt {
   double HeadY = 0;
 };
 
+// The extents of the living ants indexed, gathered while building: the
+// longest queen and worker, and the largest squared head-to-rear span of all
+// of them and of the workers.
+struct LivingAntExtents {
+  double QueenLength = 0;
+  double WorkerLength = 0;
+  double SquaredSpan = 0;
+  double WorkerSquaredSpan = 0;
+};
+
 // A reach widened just enough to cover the rounding of the distance formulas
 // and of the cell arithmetic (relative 1e-9, plus a millionth of a cell).
 inline double PaddedReach(double reach, double cellSize) { return reach * (1 + 1e-9) + cellSize * 1e-6; }
@@ -76,6 +86,8 @@ class AntIndex {
   // The same ants, in nest-then-ant order, as a scan of every ant meets them.
   const std::vector<AntRef>& Near(double worldX, double worldY, double reach);
 
+  const LivingAntExtents& Extents() const { return extents_; }
+
   // The bucket grid: columns and rows of cell slots (the grid and its border
   // ring), and the slot a world point falls in.
   int Columns() const { return columns_; }
@@ -106,8 +118,8 @@ class AntIndex {
   int rows_ = 0;
   std::vector<int> cellStart_;  // ants of cell slot c: ants_[cellStart_[c] .. cellStart_[c + 1])
   std::vector<IndexedAnt> ants_;
-  std::vector<int> slotOfAnt_;    // while building: every ant record's slot in scan order, dead ones too
-  std::vector<int> slotOfEntry_;  // while building: the slot of each entry of ants_
+  std::vector<IndexedAnt> scanned_;  // while building: the living ants in scan order, RunEnd holding the slot
+  LivingAntExtents extents_;
   std::vector<AntRef> found_;
 };
 

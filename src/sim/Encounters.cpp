@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <limits>
 #include <vector>
 
@@ -34,6 +35,15 @@ void Bite(World& world, Cell& cell, const Nest& nest, const Ant& biter, Ant& vic
   victim.Energy = Max(1, victim.Energy - nest.AntUnit);
 }
 
+// A bite leaves a living victim at least 1 energy unless a bite unit is not
+// finite: only then could one bite change which ant a later biter touches.
+bool BitesLeaveVictimsAlive(const World& world) {
+  for (int n = 0; n < world.NestCount; ++n) {
+    if (!std::isfinite(world.Nests[static_cast<size_t>(n)].AntUnit)) return false;
+  }
+  return true;
+}
+
 // The encounter phase through the index. A victim's head lies within the
 // touch reach plus the victim's own head-to-rear span of the biter's head, so
 // the largest worker length and span bound the block of cells to search;
@@ -43,7 +53,7 @@ class NearbyEncounters {
   NearbyEncounters(World& world, NeighbourSearch& search)
       : world_(world),
         index_(search.Index),
-        living_(MeasureLivingAnts(world)),
+        living_(MeasureLivingAnts(search.Index.Extents())),
         rivals_(search.Rivals),
         firstTouch_(static_cast<size_t>(world.NestCount)) {
     rivals_.Reset(world, index_, living_.Share / world.Settings.ScaleX + std::sqrt(living_.SquaredSpan));
@@ -54,17 +64,71 @@ class NearbyEncounters {
     }
   }
 
-  bool MayMeetRival(int nest) const { return rivals_.MayMeetRival(nest); }
-
-  // Ant i of nest n bites the first ant its head touches in each rival
+  // Every living ant bites the first ant its head touches in each rival
   // colony: the lowest-numbered one, as a scan in ant order meets them.
-  void Resolve(Cell& cell, int nestIndex, int antIndex) {
+  // Touches depend only on positions, which no bite changes, so the bites are
+  // found slot by slot, where the index passes over whole slots with no
+  // rival near, and then made in the order of a scan of the ants.
+  void ResolveAll() {
+    FindBiters();
+    bites_.clear();
+    // Biters lie scattered over the ant records and the grid: each one's
+    // record, then its cell, is asked for some biters ahead.
+    constexpr size_t cellAhead = 8;
+    constexpr size_t recordAhead = 2 * cellAhead;
+    for (size_t k = 0; k < biters_.size(); ++k) {
+      if (k + recordAhead < biters_.size()) __builtin_prefetch(&AntOf(biters_[k + recordAhead]));
+      if (k + cellAhead < biters_.size()) {
+        const Ant& later = AntOf(biters_[k + cellAhead]);
+        __builtin_prefetch(&world_.Cells(later.CellX, later.CellY).AntCount);
+      }
+      FindBites(biters_[k]);
+    }
+    std::sort(bites_.begin(), bites_.end());
+    for (const PendingBite& bite : bites_) {
+      const Nest& nest = world_.Nests[static_cast<size_t>(bite.Biter.Nest)];
+      const Ant& biter = nest.Ants[bite.Biter.Ant];
+      Bite(world_, world_.Cells(biter.CellX, biter.CellY), nest, biter,
+           world_.Nests[static_cast<size_t>(bite.VictimNest)].Ants[bite.VictimAnt]);
+    }
+  }
+
+ private:
+  struct PendingBite {
+    AntRef Biter;
+    int VictimNest = 0;
+    int VictimAnt = 0;
+    bool operator<(const PendingBite& other) const {
+      if (Biter < other.Biter || other.Biter < Biter) return Biter < other.Biter;
+      return VictimNest < other.VictimNest;
+    }
+  };
+
+  const Ant& AntOf(AntRef ref) const { return world_.Nests[static_cast<size_t>(ref.Nest)].Ants[ref.Ant]; }
+
+  // The living ants with a rival colony's head within reach of their slot.
+  void FindBiters() {
+    biters_.clear();
+    size_t lastSlot = SIZE_MAX;
+    uint64_t coloniesNear = 0;
+    index_.ForEachIndexed([&](size_t slot, const IndexedAnt& ant) {
+      if (slot != lastSlot) {
+        lastSlot = slot;
+        coloniesNear = rivals_.ColoniesNear(slot);
+      }
+      const int nest = ant.Ref.Nest;
+      if (rivals_.MayMeetRival(nest) && rivals_.HoldsRival(coloniesNear, nest)) biters_.push_back(ant.Ref);
+    });
+  }
+
+  // Records the bites of one living ant standing in a crowded cell.
+  void FindBites(AntRef ref) {
+    const int nestIndex = ref.Nest;
+    const int antIndex = ref.Ant;
     const int nestCount = world_.NestCount;
     const Nest& nest = world_.Nests[static_cast<size_t>(nestIndex)];
     const Ant& biter = nest.Ants[antIndex];
-    // Both tests are pure; the rival summary is the cheaper read.
-    if (!rivals_.MayHoldRival(index_.CellSlotAt(biter.HeadX, biter.HeadY), nestIndex)) return;
-    if (cell.AntCount < 3) return;
+    if (world_.Cells(biter.CellX, biter.CellY).AntCount < 3) return;
     const double scaleX = world_.Settings.ScaleX;
     const double biterShare = ReachShare(biter, antIndex) / 2 / scaleX;
     for (int m = 0; m < nestCount; ++m) {
@@ -85,26 +149,24 @@ class NearbyEncounters {
     index_.ForEachNear(biter.HeadX, biter.HeadY, workerReach, [&](const IndexedAnt& near) {
       // A run lists its nest's ants in rising order: once past the first
       // touch, or in a nest that is no rival, the rest of it can be skipped.
-      const AntRef ref = near.Ref;
-      int& first = firstTouch_[static_cast<size_t>(ref.Nest)];
-      if (ref.Ant >= first) return false;
-      if (ref.Ant == 0) return true;
+      const AntRef victim = near.Ref;
+      int& first = firstTouch_[static_cast<size_t>(victim.Nest)];
+      if (victim.Ant >= first) return false;
+      if (victim.Ant == 0) return true;
       if (std::abs(near.HeadX - biter.HeadX) > paddedReach || std::abs(near.HeadY - biter.HeadY) > paddedReach) {
         return true;
       }
-      const Nest& other = world_.Nests[static_cast<size_t>(ref.Nest)];
-      if (!Touches(world_, biter, antIndex, other.Ants[ref.Ant], ref.Ant)) return true;
-      first = ref.Ant;
+      const Nest& other = world_.Nests[static_cast<size_t>(victim.Nest)];
+      if (!Touches(world_, biter, antIndex, other.Ants[victim.Ant], victim.Ant)) return true;
+      first = victim.Ant;
       return false;
     });
     for (int m = 0; m < nestCount; ++m) {
       const int victim = firstTouch_[static_cast<size_t>(m)];
-      if (victim == NotRival || victim == Untouched) continue;
-      Bite(world_, cell, nest, biter, world_.Nests[static_cast<size_t>(m)].Ants[victim]);
+      if (victim != NotRival && victim != Untouched) bites_.push_back({ref, m, victim});
     }
   }
 
- private:
   static constexpr int NotRival = -1;  // below every ant number: nothing to test
   static constexpr int Untouched = std::numeric_limits<int>::max();
 
@@ -114,33 +176,18 @@ class NearbyEncounters {
     return dx * dx + dy * dy;
   }
 
-  // The extents of the living ants, in one pass: the largest touch-reach
-  // share and body of all of them, and the longest worker and worker body.
-  // A living victim's head lies within share / ScaleX + body of a biter's head.
+  // From the index's extents of the living ants: the largest touch-reach
+  // share of all of them, the longest worker and the longest worker body. A
+  // living victim's head lies within share / ScaleX + body of a biter's head.
   struct LivingAnts {
     double Share = 0;
     double SquaredSpan = 0;
     double WorkerLength = 0;
     double WorkerSpan = 0;
   };
-  static LivingAnts MeasureLivingAnts(const World& world) {
-    LivingAnts living;
-    double workerSquaredSpan = 0;
-    for (int n = 0; n < world.NestCount; ++n) {
-      const Nest& nest = world.Nests[static_cast<size_t>(n)];
-      for (int a = 0; a < nest.AntCount(); ++a) {
-        const Ant& ant = nest.Ants[a];
-        if (!(ant.Energy > 0)) continue;
-        const double squaredSpan = SquaredSpan(ant);
-        living.Share = std::max(living.Share, ReachShare(ant, a));
-        living.SquaredSpan = std::max(living.SquaredSpan, squaredSpan);
-        if (a == 0) continue;
-        living.WorkerLength = std::max(living.WorkerLength, ant.Length);
-        workerSquaredSpan = std::max(workerSquaredSpan, squaredSpan);
-      }
-    }
-    living.WorkerSpan = std::sqrt(workerSquaredSpan);
-    return living;
+  static LivingAnts MeasureLivingAnts(const LivingAntExtents& extents) {
+    return {std::max(extents.QueenLength / QueenReachDivisor, extents.WorkerLength / WorkerReachDivisor),
+            extents.SquaredSpan, extents.WorkerLength, std::sqrt(extents.WorkerSquaredSpan)};
   }
 
   World& world_;
@@ -149,6 +196,8 @@ class NearbyEncounters {
   RivalNeighbourhood& rivals_;
   std::vector<double> queenReach_;  // per nest: the queen's share of a touch reach plus her span
   std::vector<int> firstTouch_;  // per nest: the first touched ant so far, Untouched or NotRival
+  std::vector<AntRef> biters_;
+  std::vector<PendingBite> bites_;
 };
 
 }  // namespace
@@ -171,24 +220,15 @@ void ResolveEncounter(World& world, Cell& cell, int nestIndex, int antIndex) {
 
 void ResolveEncounters(World& world, NeighbourSearch* search) {
   if (!world.Running) return;
-  const int nestCount = world.NestCount;
-  if (search == nullptr) {
-    for (int n = 0; n < nestCount; ++n) {
-      Nest& nest = world.Nests[static_cast<size_t>(n)];
-      for (int i = 0; i < nest.AntCount(); ++i) {
-        const Ant& ant = nest.Ants[i];
-        if (ant.Energy > 0) ResolveEncounter(world, world.Cells(ant.CellX, ant.CellY), n, i);
-      }
-    }
+  if (search != nullptr && BitesLeaveVictimsAlive(world)) {
+    NearbyEncounters(world, *search).ResolveAll();
     return;
   }
-  NearbyEncounters encounters(world, *search);
-  for (int n = 0; n < nestCount; ++n) {
-    if (!encounters.MayMeetRival(n)) continue;
+  for (int n = 0; n < world.NestCount; ++n) {
     Nest& nest = world.Nests[static_cast<size_t>(n)];
     for (int i = 0; i < nest.AntCount(); ++i) {
       const Ant& ant = nest.Ants[i];
-      if (ant.Energy > 0) encounters.Resolve(world.Cells(ant.CellX, ant.CellY), n, i);
+      if (ant.Energy > 0) ResolveEncounter(world, world.Cells(ant.CellX, ant.CellY), n, i);
     }
   }
 }

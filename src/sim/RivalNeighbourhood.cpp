@@ -46,13 +46,17 @@ void RivalNeighbourhood::Reset(const World& world, const AntIndex& index, double
   }
 }
 
-bool RivalNeighbourhood::MayHoldRival(size_t slot, int nest) {
+uint64_t RivalNeighbourhood::ColoniesNear(size_t slot) {
   if (!cellsSummarised_) SummariseCells();
-  if (cellsOfReach_ == 0) return true;
-  uint64_t& near = nearColonies_[slot];
-  if ((near & Summed) == 0) near = Summed | NearbyColonies(slot);
-  const uint64_t own = uint64_t{1} << colonyOfNest_[static_cast<size_t>(nest)];
-  return (near & ~Summed & ~own) != 0;
+  if (cellsOfReach_ == 0) return ~uint64_t{0};
+  const size_t rows = static_cast<size_t>(index_->Rows());
+  const size_t column = slot / rows;
+  const size_t first = column >= static_cast<size_t>(cellsOfReach_) ? column - static_cast<size_t>(cellsOfReach_) : 0;
+  const size_t last = std::min(static_cast<size_t>(index_->Columns()) - 1, column + static_cast<size_t>(cellsOfReach_));
+  const size_t row = slot % rows;
+  uint64_t colonies = 0;
+  for (size_t k = first; k <= last; ++k) colonies |= columnColonies_[k * rows + row];
+  return colonies;
 }
 
 void RivalNeighbourhood::SummariseCells() {
@@ -62,25 +66,20 @@ void RivalNeighbourhood::SummariseCells() {
   if (colonies_ > MaxColonyBits || !(cellsOfReach <= MaxCellsOfReach)) return;
   cellsOfReach_ = static_cast<int>(cellsOfReach);
   cellColonies_.assign(static_cast<size_t>(index_->Columns()) * static_cast<size_t>(index_->Rows()), 0);
-  nearColonies_.assign(cellColonies_.size(), 0);
   index_->ForEachIndexed([&](size_t slot, const IndexedAnt& ant) {
     cellColonies_[slot] |= uint64_t{1} << colonyOfNest_[static_cast<size_t>(ant.Ref.Nest)];
   });
-}
-
-uint64_t RivalNeighbourhood::NearbyColonies(size_t slot) const {
+  // Summed along each column here, across columns when a slot is asked.
   const int rows = index_->Rows();
-  const int columns = index_->Columns();
-  const int x = static_cast<int>(slot / static_cast<size_t>(rows));
-  const int y = static_cast<int>(slot % static_cast<size_t>(rows));
-  const int y0 = std::max(0, y - cellsOfReach_);
-  const int y1 = std::min(rows - 1, y + cellsOfReach_);
-  uint64_t bits = 0;
-  for (int k = std::max(0, x - cellsOfReach_); k <= std::min(columns - 1, x + cellsOfReach_); ++k) {
-    const uint64_t* column = &cellColonies_[static_cast<size_t>(k) * static_cast<size_t>(rows)];
-    for (int j = y0; j <= y1; ++j) bits |= column[j];
+  columnColonies_.resize(cellColonies_.size());
+  for (size_t column = 0; column < cellColonies_.size(); column += static_cast<size_t>(rows)) {
+    const uint64_t* cells = &cellColonies_[column];
+    for (int y = 0; y < rows; ++y) {
+      uint64_t colonies = 0;
+      for (int j = std::max(0, y - cellsOfReach_); j <= std::min(rows - 1, y + cellsOfReach_); ++j) colonies |= cells[j];
+      columnColonies_[column + static_cast<size_t>(y)] = colonies;
+    }
   }
-  return bits;
 }
 
 }  // namespace keldor

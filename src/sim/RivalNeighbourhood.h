@@ -4,7 +4,7 @@
 //   - per colony (the nests of one signature), whether the box around its
 //     living ants' heads comes within reach of another colony's box;
 //   - per cell, which colonies have a head within reach of it (made on first
-//     use, for up to 63 colonies and a reach of a few cells).
+//     use, for up to 64 colonies and a reach of a few cells).
 // Valid while no ant moves, is born or dies: for one encounter phase.
 #pragma once
 
@@ -31,22 +31,27 @@ class RivalNeighbourhood {
   // living ant of nest n.
   bool MayMeetRival(int nest) const { return !isolated_[static_cast<size_t>(colonyOfNest_[static_cast<size_t>(nest)])]; }
 
+  // The colonies with a living ant's head within reach of any point of the
+  // cell slot, one bit each; every bit set where no cell summary is kept.
+  uint64_t ColoniesNear(size_t slot);
+  // Whether colonies (from ColoniesNear) holds one other than nest n's.
+  bool HoldsRival(uint64_t colonies, int nest) const {
+    const int colony = colonyOfNest_[static_cast<size_t>(nest)];
+    return colony >= MaxColonyBits || (colonies & ~(uint64_t{1} << colony)) != 0;
+  }
   // False when no living ant of a colony other than nest n's has its head
   // within reach of any point of the cell slot.
-  bool MayHoldRival(size_t slot, int nest);
+  bool MayHoldRival(size_t slot, int nest) { return HoldsRival(ColoniesNear(slot), nest); }
 
  private:
   struct Box {
     double Left, Top, Right, Bottom;
   };
   static constexpr int MaxColoniesCompared = 256;  // beyond that, no colony counts as isolated
-  static constexpr int MaxColonyBits = 63;         // beyond that, no cell summary
-  static constexpr uint64_t Summed = uint64_t{1} << 63;  // the slot's neighbourhood is summed up
+  static constexpr int MaxColonyBits = 64;         // beyond that, no cell summary
   static constexpr int MaxCellsOfReach = 8;
 
   void SummariseCells();
-  // The colonies of the slots within cellsOfReach_ of the slot, both ways.
-  uint64_t NearbyColonies(size_t slot) const;
 
   const AntIndex* index_ = nullptr;
   double reach_ = 0;
@@ -55,8 +60,8 @@ class RivalNeighbourhood {
   std::vector<bool> isolated_;          // per colony
   bool cellsSummarised_ = false;
   int cellsOfReach_ = 0;                // 0: no cell summary
-  std::vector<uint64_t> cellColonies_;  // per cell slot: the colonies with a head in it
-  std::vector<uint64_t> nearColonies_;  // per cell slot: Summed and the nearby colonies, once asked
+  std::vector<uint64_t> cellColonies_;    // per cell slot: the colonies with a head in it
+  std::vector<uint64_t> columnColonies_;  // per cell slot: those of the slots within reach in its column
 };
 
 }  // namespace keldor
