@@ -82,9 +82,9 @@ void Translate(Ant& ant, double dx, double dy) {
 }
 
 // Rotates the ant about (px, py) unless its head would leave the map box.
-void Turn(Ant& ant, double px, double py) {
-  const double c = std::cos(ant.Angle);
-  const double s = std::sin(ant.Angle);
+void Turn(Ant& ant, double px, double py, TurnRotation rotation) {
+  const double c = rotation.Cos;
+  const double s = rotation.Sin;
   const double headX = (ant.HeadX - px) * c + px - (ant.HeadY - py) * s;
   const double headY = (ant.HeadX - px) * s + py + (ant.HeadY - py) * c;
   if (headX < 0 || headX > MapBoxSize || headY < 0 || headY > MapBoxSize) return;
@@ -153,7 +153,7 @@ void StepQueen(World& world, RandomSource& random, int nestIndex) {
   queen.CellX = static_cast<int16_t>(cx);
   queen.CellY = static_cast<int16_t>(cy);
   queen.Angle = IsBrick(world, cx, cy) ? 0 : QueenTurn(random);
-  Turn(queen, nest.X, nest.Y);
+  Turn(queen, nest.X, nest.Y, TurnRotation::Of(queen.Angle));
   Cell& cell = world.Cells(cx, cy);
   cell.Scent = -world.Settings.NestScentMax;
   BlendSignature(random, 0, nest, cell, Signature::Capacity);
@@ -184,11 +184,12 @@ void MoveAntCount(World& world, int fromX, int fromY, int toX, int toY) {
   ++world.Cells(toX, toY).AntCount;
 }
 
-// A worker's step after its turn: the cell it stands on, the cell ahead and
-// the step vector, (head - rear) / s.
+// A worker's step after its turn: the cell it stands on, the cell ahead,
+// whether they are one cell, and the step vector, (head - rear) / s.
 struct WorkerStep {
   int CurrentX, CurrentY;
   int TargetX, TargetY;
+  bool StaysInCell;
   double DX, DY;
 };
 
@@ -204,10 +205,22 @@ void StepForward(World& world, RandomSource& random, int nestIndex, int antIndex
   ant.CellY = static_cast<int16_t>(step.TargetY);
 }
 
+// Where an ant's rear and head were when its step began.
+struct AntPosition {
+  double RearX, RearY, HeadX, HeadY;
+  explicit AntPosition(const Ant& ant) : RearX(ant.RearX), RearY(ant.RearY), HeadX(ant.HeadX), HeadY(ant.HeadY) {}
+  void RestoreTo(Ant& ant) const {
+    ant.RearX = RearX;
+    ant.RearY = RearY;
+    ant.HeadX = HeadX;
+    ant.HeadY = HeadY;
+  }
+};
+
 // A refused step: back off one step, or, where that cell is off the grid or
 // walled, stay where the step began (the turn undone).
 void BackOff(World& world, RandomSource& random, int nestIndex, int antIndex, const WorkerStep& step,
-             const CellFinder& cellOf, const Ant& before, int16_t nestTrace) {
+             const CellFinder& cellOf, const AntPosition& before, int16_t nestTrace) {
   Ant& ant = world.Nests[static_cast<size_t>(nestIndex)].Ants[antIndex];
   const int bx = cellOf(ant.HeadX - step.DX);
   const int by = cellOf(ant.HeadY - step.DY);
@@ -221,37 +234,35 @@ void BackOff(World& world, RandomSource& random, int nestIndex, int antIndex, co
     return;
   }
   LayScentTrail(world, random, nestIndex, antIndex, step.CurrentX, step.CurrentY, bx, by, nestTrace);
-  ant.RearX = before.RearX;
-  ant.RearY = before.RearY;
-  ant.HeadX = before.HeadX;
-  ant.HeadY = before.HeadY;
+  before.RestoreTo(ant);
   ant.Angle = RandomTurn(random, 60);
 }
 
 void StepWorker(World& world, RandomSource& random, int nestIndex, int antIndex, double stepDivisor,
-                int16_t nestTrace) {
+                int16_t nestTrace, TurnRotation turn) {
   Nest& nest = world.Nests[static_cast<size_t>(nestIndex)];
   Ant& ant = nest.Ants[antIndex];
   const CellFinder cellOf(world.Settings.CellSize);
-  const Ant before = ant;
+  const AntPosition before(ant);
   WorkerStep step{};
   step.CurrentX = cellOf(ant.HeadX);
   step.CurrentY = cellOf(ant.HeadY);
   ant.CellX = static_cast<int16_t>(step.CurrentX);
   ant.CellY = static_cast<int16_t>(step.CurrentY);
-  Turn(ant, ant.RearX + (ant.HeadX - ant.RearX) / stepDivisor,
-       ant.RearY + (ant.HeadY - ant.RearY) / stepDivisor);
+  Turn(ant, ant.RearX + (ant.HeadX - ant.RearX) / stepDivisor, ant.RearY + (ant.HeadY - ant.RearY) / stepDivisor,
+       turn);
   step.DX = (ant.HeadX - ant.RearX) / stepDivisor;
   step.DY = (ant.HeadY - ant.RearY) / stepDivisor;
   step.TargetX = cellOf(ant.HeadX + step.DX);
   step.TargetY = cellOf(ant.HeadY + step.DY);
+  step.StaysInCell = step.TargetX == step.CurrentX && step.TargetY == step.CurrentY;
 
   if (MayStepForward(world, nestTrace, nest, ant, step.CurrentX, step.CurrentY, step.TargetX, step.TargetY)) {
     StepForward(world, random, nestIndex, antIndex, step, nestTrace);
   } else {
     BackOff(world, random, nestIndex, antIndex, step, cellOf, before, nestTrace);
   }
-  if (step.TargetX == step.CurrentX && step.TargetY == step.CurrentY) {
+  if (step.StaysInCell) {
     DeliverAndFeed(world, nest, ant, world.Cells(step.CurrentX, step.CurrentY));
   }
 }
@@ -336,6 +347,11 @@ void LayScentTrail(World& world, RandomSource& random, int nestIndex, int antInd
 }
 
 void StepAnt(World& world, RandomSource& random, int nestIndex, int antIndex, int16_t nestTrace) {
+  const double angle = world.Nests[static_cast<size_t>(nestIndex)].Ants[antIndex].Angle;
+  StepAnt(world, random, nestIndex, antIndex, nestTrace, TurnRotation::Of(angle));
+}
+
+void StepAnt(World& world, RandomSource& random, int nestIndex, int antIndex, int16_t nestTrace, TurnRotation turn) {
   if (!world.Running) return;
   if (!(world.Nests[static_cast<size_t>(nestIndex)].Ants[antIndex].Energy > 0)) return;
   // Every ant draws its step divisor, the queen too, though she never walks.
@@ -343,7 +359,7 @@ void StepAnt(World& world, RandomSource& random, int nestIndex, int antIndex, in
   if (antIndex == 0) {
     StepQueen(world, random, nestIndex);
   } else {
-    StepWorker(world, random, nestIndex, antIndex, stepDivisor, nestTrace);
+    StepWorker(world, random, nestIndex, antIndex, stepDivisor, nestTrace, turn);
   }
 }
 

@@ -2,6 +2,7 @@
 // it lays, the queen's mark on the nest cell, delivery and feeding at the nest.
 #pragma once
 
+#include <cmath>
 #include <cstdint>
 
 #include "model/Signature.h"
@@ -35,7 +36,18 @@ void BlendSignature(RandomSource& random, int antIndex, const Nest& source, Cell
 void LayScentTrail(World& world, RandomSource& random, int nestIndex, int antIndex, int cx, int cy, int nx, int ny,
                    int16_t nestTrace);
 
+// The cosine and sine of a turn angle.
+struct TurnRotation {
+  double Cos = 1;
+  double Sin = 0;
+  static TurnRotation Of(double angle) { return {std::cos(angle), std::sin(angle)}; }
+};
+
 // Steps ant j of nest i; does nothing for a dead ant or a paused world.
 void StepAnt(World& world, RandomSource& random, int nestIndex, int antIndex, int16_t nestTrace);
+// The same step for a pass that works out the workers' turns beforehand:
+// turn is TurnRotation::Of(the ant's Angle) (a worker turns by the angle its
+// last step left it; the queen draws hers during the step and ignores turn).
+void StepAnt(World& world, RandomSource& random, int nestIndex, int antIndex, int16_t nestTrace, TurnRotation turn);
 
 }  // namespace keldor

@@ -1,6 +1,7 @@
 #include "sim/Tick.h"
 
 #include <algorithm>
+#include <vector>
 
 #include "model/Numeric.h"
 #include "model/Random.h"
@@ -30,10 +31,15 @@ void PrefetchCellsAround(const World& world, const Ant& ant) {
   __builtin_prefetch(&world.Cells(x + 1, y));
 }
 
-// Draws every ant (while ants are shown) and steps the living ones.
-void AntPass(World& world, RandomSource& random, TickPainter& painter, const TickInput& input) {
+// Draws every ant (while ants are shown) and steps the living ones. Each
+// nest's turns are worked out before its ants step, apart from the steps
+// that wait for them: an ant's angle changes only in its own step.
+void AntPass(World& world, RandomSource& random, TickPainter& painter, const TickInput& input,
+             std::vector<TurnRotation>& turns) {
   const int16_t nestTrace = input.NestTraceSlider.value_or(world.Settings.NestScentMax);
   for (int i = 0; i < world.NestCount; ++i) {
+    turns.clear();
+    for (const Ant& ant : world.Nests[static_cast<size_t>(i)].Ants) turns.push_back(TurnRotation::Of(ant.Angle));
     for (int j = 0; j < world.Nests[static_cast<size_t>(i)].AntCount(); ++j) {
       const SlotList<Ant>& ants = world.Nests[static_cast<size_t>(i)].Ants;
       if (j + PrefetchDistance < ants.Count()) PrefetchCellsAround(world, ants[j + PrefetchDistance]);
@@ -43,7 +49,7 @@ void AntPass(World& world, RandomSource& random, TickPainter& painter, const Tic
         // A bitten ant is drawn red once, then takes its nest's colour again.
         nest.Ants[j].Colour = nest.Colour;
       }
-      StepAnt(world, random, i, j, nestTrace);
+      StepAnt(world, random, i, j, nestTrace, turns[static_cast<size_t>(j)]);
     }
   }
 }
@@ -101,7 +107,7 @@ bool RunTick(TickContext& context, TickPainter& painter, const TickInput& input)
   painter.DrawWalls(world);
   painter.DrawNests(world);
   painter.DrawFoodPiles(world);
-  AntPass(world, random, painter, input);
+  AntPass(world, random, painter, input, context.Turns);
   if (PopulationAtLimit(world)) context.events.PopulationLimitReached();
   painter.DrawViewFrames(world);
   BreedNests(world, random);

@@ -14,6 +14,9 @@
 //  14. the frame is shown
 #pragma once
 
+#include <vector>
+
+#include "sim/AntStep.h"
 #include "sim/NeighbourSearch.h"
 #include "sim/TickInput.h"
 
@@ -35,6 +38,7 @@ struct TickContext {
   // A tick is running: set and cleared by RunTick.
   bool InProgress = false;
   NeighbourSearch Search{};  // the indexes' arrays, kept from one tick to the next
+  std::vector<TurnRotation> Turns{};  // the ant pass's turns of one nest, likewise
 };
 
 // Runs one tick with what the window hands it, drawing on `painter` (the
