@@ -4,7 +4,7 @@
 //   - per colony (the nests of one signature), whether the box around its
 //     living ants' heads comes within reach of another colony's box;
 //   - per cell, which colonies have a head within reach of it (made on first
-//     use, for up to 64 colonies and a reach of a few cells).
+//     use, for up to 64 colonies).
 // Valid while no ant moves, is born or dies: for one encounter phase.
 #pragma once
 
@@ -49,7 +49,6 @@ class RivalNeighbourhood {
   };
   static constexpr int MaxColoniesCompared = 256;  // beyond that, no colony counts as isolated
   static constexpr int MaxColonyBits = 64;         // beyond that, no cell summary
-  static constexpr int MaxCellsOfReach = 8;
 
   void SummariseCells();
 
@@ -59,9 +58,10 @@ class RivalNeighbourhood {
   std::vector<int> colonyOfNest_;
   std::vector<bool> isolated_;          // per colony
   bool cellsSummarised_ = false;
-  int cellsOfReach_ = 0;                // 0: no cell summary
+  bool cellSummary_ = false;            // false: every slot may hold every colony
   std::vector<uint64_t> cellColonies_;    // per cell slot: the colonies with a head in it
   std::vector<uint64_t> columnColonies_;  // per cell slot: those of the slots within reach in its column
+  std::vector<uint64_t> nearColonies_;    // per cell slot: those of the slots within reach both ways
 };
 
 }  // namespace keldor
