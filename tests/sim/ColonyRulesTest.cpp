@@ -2,6 +2,8 @@
 // and nests, bites between rival colonies, and a nest taken by the nest tool.
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <limits>
 #include <string>
 #include <tuple>
 
@@ -144,6 +146,57 @@ TEST(Encounters, AnUnloadedAntInACrowdBitesTheFirstLivingAntOfEachRivalColony) {
       EXPECT_EQ(rival.Ants[3].Colour, bites ? Colour(255, 0, 0) : rival.Colour);
       EXPECT_EQ(rival.Ants[4].Energy, 500) << "one bite per colony";
       EXPECT_EQ(scene.nest(2).Ants[1].Energy, bites && !c.allied ? 1 : 50) << "a bite never kills";
+    }
+  }
+}
+
+// Biters of nests 0 and 1 in neighbouring crowded cells, nest 1's in the
+// lower column, both with their heads on the body of nest 2's ant 1, which
+// carries food and so bites nobody. Nest 2's ant 2 lies under nest 1's biter.
+struct CrossBiteScene : RuleWorld {
+  CrossBiteScene() : RuleWorld(2) {
+    AddNest(12, 10, 2);
+    AddNest(14, 10, 3);
+    PlaceAnt(nest(0).Ants[1], 5, 4);
+    PlaceAnt(nest(1).Ants[1], 4, 4);
+    Ant& victim = nest(2).Ants[1];
+    PlaceAnt(victim, 5, 4);
+    victim.RearX = 350;  // from nest 1's biter's head to nest 0's
+    PlaceAnt(nest(2).Ants[2], 4, 4);
+    for (int a : {1, 2}) nest(2).Ants[a].Load = 1;
+    world.Cells(4, 4).AntCount = world.Cells(5, 4).AntCount = 3;
+  }
+};
+
+TEST(Encounters, BitesAreMadeInTheOrderOfTheNestsWhateverCellTheBitersStandIn) {
+  for (const bool indexed : {false, true}) {
+    {
+      // Above 2^53 doubles lie 2 apart. Nest 0 bites first: 2^53 + 2 - 1
+      // rounds to 2^53 (ties to even), less 3 is 2^53 - 3. Nest 1 first
+      // would give 2^53 - 1 - 1 = 2^53 - 2.
+      CrossBiteScene scene;
+      scene.nest(0).AntUnit = 1;
+      scene.nest(1).AntUnit = 3;
+      scene.nest(2).Ants[1].Energy = 9007199254740994.0;
+      NeighbourSearch search;
+      search.Index.Rebuild(scene.world);
+      ResolveEncounters(scene.world, indexed ? &search : nullptr);
+      EXPECT_EQ(scene.nest(2).Ants[1].Energy, 9007199254740989.0) << indexed;
+    }
+    {
+      // An endless unit against endless energy leaves no number: the victim
+      // is dead when nest 1's biter comes, which bites the next ant instead.
+      CrossBiteScene scene;
+      const double endless = std::numeric_limits<double>::infinity();
+      scene.nest(0).AntUnit = endless;
+      scene.nest(1).AntUnit = 3;
+      scene.nest(2).Ants[1].Energy = endless;
+      scene.nest(2).Ants[2].Energy = 10;
+      NeighbourSearch search;
+      search.Index.Rebuild(scene.world);
+      ResolveEncounters(scene.world, indexed ? &search : nullptr);
+      EXPECT_TRUE(std::isnan(scene.nest(2).Ants[1].Energy)) << indexed;
+      EXPECT_EQ(scene.nest(2).Ants[2].Energy, 7) << indexed;
     }
   }
 }
