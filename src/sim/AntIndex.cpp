@@ -38,18 +38,19 @@ void AntIndex::Rebuild(const World& world) {
   // last ant backwards moves it to the start of c and keeps scan order.
   for (size_t c = 1; c < cellStart_.size(); ++c) cellStart_[c] += cellStart_[c - 1];
   ants_.resize(scanned_.size());
+  slotOfEntry_.resize(scanned_.size());
   for (size_t k = scanned_.size(); k-- > 0;) {
     const IndexedAnt& ant = scanned_[k];
-    ants_[static_cast<size_t>(--cellStart_[static_cast<size_t>(ant.RunEnd)])] = ant;
+    const size_t at = static_cast<size_t>(--cellStart_[static_cast<size_t>(ant.RunEnd)]);
+    ants_[at] = ant;
+    slotOfEntry_[at] = ant.RunEnd;
   }
-  // A run ends where the next ant of its cell belongs to another nest.
-  for (size_t c = 0; c + 1 < cellStart_.size(); ++c) {
-    const int start = cellStart_[c];
-    for (int i = cellStart_[c + 1] - 1; i >= start; --i) {
-      IndexedAnt& ant = ants_[static_cast<size_t>(i)];
-      const bool runGoesOn = i + 1 < cellStart_[c + 1] && ants_[static_cast<size_t>(i) + 1].Ref.Nest == ant.Ref.Nest;
-      ant.RunEnd = runGoesOn ? ants_[static_cast<size_t>(i) + 1].RunEnd : i + 1;
-    }
+  // A run ends where the next ant belongs to another nest or another cell.
+  for (size_t at = ants_.size(); at-- > 0;) {
+    IndexedAnt& ant = ants_[at];
+    const bool runGoesOn = at + 1 < ants_.size() && slotOfEntry_[at + 1] == slotOfEntry_[at] &&
+                           ants_[at + 1].Ref.Nest == ant.Ref.Nest;
+    ant.RunEnd = runGoesOn ? ants_[at + 1].RunEnd : static_cast<int32_t>(at + 1);
   }
 }
 

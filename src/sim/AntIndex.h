@@ -77,10 +77,7 @@ class AntIndex {
   // pass over the index, cheaper than one over the ant records.
   template <class Visit>
   void ForEachIndexed(Visit visit) const {
-    for (size_t slot = 0; slot + 1 < cellStart_.size(); ++slot) {
-      const int end = cellStart_[slot + 1];
-      for (int k = cellStart_[slot]; k < end; ++k) visit(slot, ants_[static_cast<size_t>(k)]);
-    }
+    for (size_t k = 0; k < ants_.size(); ++k) visit(static_cast<size_t>(slotOfEntry_[k]), ants_[k]);
   }
 
   // The same ants, in nest-then-ant order, as a scan of every ant meets them.
@@ -119,6 +116,7 @@ class AntIndex {
   std::vector<int> cellStart_;  // ants of cell slot c: ants_[cellStart_[c] .. cellStart_[c + 1])
   std::vector<IndexedAnt> ants_;
   std::vector<IndexedAnt> scanned_;  // while building: the living ants in scan order, RunEnd holding the slot
+  std::vector<int> slotOfEntry_;     // the cell slot of each entry of ants_
   LivingAntExtents extents_;
   std::vector<AntRef> found_;
 };

@@ -109,15 +109,17 @@ class NearbyEncounters {
   // The living ants with a rival colony's head within reach of their slot.
   void FindBiters() {
     biters_.clear();
+    if (!rivals_.AnyMayMeet()) return;
     size_t lastSlot = SIZE_MAX;
     uint64_t coloniesNear = 0;
     index_.ForEachIndexed([&](size_t slot, const IndexedAnt& ant) {
+      const int nest = ant.Ref.Nest;
+      if (!rivals_.MayMeetRival(nest)) return;
       if (slot != lastSlot) {
         lastSlot = slot;
         coloniesNear = rivals_.ColoniesNear(slot);
       }
-      const int nest = ant.Ref.Nest;
-      if (rivals_.MayMeetRival(nest) && rivals_.HoldsRival(coloniesNear, nest)) biters_.push_back(ant.Ref);
+      if (rivals_.HoldsRival(coloniesNear, nest)) biters_.push_back(ant.Ref);
     });
   }
 

@@ -24,20 +24,16 @@ void RivalNeighbourhood::Reset(const World& world, const AntIndex& index, double
   }
   colonies_ = static_cast<int>(colonyOf.size());
   isolated_.assign(static_cast<size_t>(colonies_), false);
+  anyMeets_ = true;
   if (colonies_ > MaxColoniesCompared) return;
+  anyMeets_ = false;
 
-  // One pass over the index: each colony's box, and each slot's colonies
-  // while there are few enough of them for the cell summary.
   constexpr double far = std::numeric_limits<double>::infinity();
   std::vector<Box> boxes(static_cast<size_t>(colonies_), Box{far, far, -far, -far});
-  const bool colonyBits = colonies_ <= MaxColonyBits;
-  cellColonies_.assign(colonyBits ? static_cast<size_t>(index.Columns()) * static_cast<size_t>(index.Rows()) : 0, 0);
-  index.ForEachIndexed([&](size_t slot, const IndexedAnt& ant) {
-    const int colony = colonyOfNest_[static_cast<size_t>(ant.Ref.Nest)];
-    Box& box = boxes[static_cast<size_t>(colony)];
+  index.ForEachIndexed([&](size_t, const IndexedAnt& ant) {
+    Box& box = boxes[static_cast<size_t>(colonyOfNest_[static_cast<size_t>(ant.Ref.Nest)])];
     box = {std::min(box.Left, ant.HeadX), std::min(box.Top, ant.HeadY), std::max(box.Right, ant.HeadX),
            std::max(box.Bottom, ant.HeadY)};
-    if (colonyBits) cellColonies_[slot] |= uint64_t{1} << colony;
   });
   // A colony with no living ant has an empty box and meets nobody.
   for (size_t a = 0; a < boxes.size(); ++a) {
@@ -49,27 +45,34 @@ void RivalNeighbourhood::Reset(const World& world, const AntIndex& index, double
               q.Top <= p.Bottom + reach_;
     }
     isolated_[a] = !meets;
+    anyMeets_ = anyMeets_ || meets;
   }
 }
 
 uint64_t RivalNeighbourhood::ColoniesNear(size_t slot) {
   if (!cellsSummarised_) SummariseCells();
-  return cellSummary_ ? nearColonies_[slot] : ~uint64_t{0};
+  if (!cellSummary_) return ~uint64_t{0};
+  const size_t rows = static_cast<size_t>(index_->Rows());
+  const size_t column = slot / rows;
+  const size_t first = column - std::min(column, cellsOfReach_);
+  const size_t last = std::min(static_cast<size_t>(index_->Columns()) - 1, column + cellsOfReach_);
+  uint64_t colonies = 0;
+  for (size_t k = first, at = slot - (column - first) * rows; k <= last; ++k, at += rows) colonies |= columnColonies_[at];
+  return colonies;
 }
 
 namespace {
 
-// out[i] = the OR of in[i - reach] .. in[i + reach] (those that exist), for
-// count elements of `lanes` values each, side by side: lane k of an element
-// is ORed with lane k of its neighbours. Offset by offset, so the loops run
-// over plain ranges.
-void SpreadWithinReach(const uint64_t* in, uint64_t* out, size_t count, size_t lanes, size_t reach) {
-  std::copy(in, in + count * lanes, out);
+// out[i] = the OR of in[i - reach] .. in[i + reach] (those of the count that
+// exist), offset by offset, so that the loops run over plain ranges.
+void SpreadAlongColumn(const uint64_t* __restrict in, uint64_t* __restrict out, size_t count, size_t reach) {
+  std::copy(in, in + count, out);
   for (size_t d = 1; d <= reach && d < count; ++d) {
-    const size_t span = (count - d) * lanes;  // the values that have a neighbour d elements on
-    const size_t offset = d * lanes;
-    for (size_t e = 0; e < span; ++e) out[e] |= in[e + offset];
-    for (size_t e = 0; e < span; ++e) out[e + offset] |= in[e];
+    const size_t pairs = count - d;
+    const uint64_t* __restrict above = in + d;
+    uint64_t* __restrict below = out + d;
+    for (size_t i = 0; i < pairs; ++i) out[i] |= above[i];
+    for (size_t i = 0; i < pairs; ++i) below[i] |= in[i];
   }
 }
 
@@ -83,14 +86,16 @@ void RivalNeighbourhood::SummariseCells() {
   cellSummary_ = true;
   const size_t rows = static_cast<size_t>(index_->Rows());
   const size_t columns = static_cast<size_t>(index_->Columns());
+  cellColonies_.assign(rows * columns, 0);
+  index_->ForEachIndexed([&](size_t slot, const IndexedAnt& ant) {
+    cellColonies_[slot] |= uint64_t{1} << colonyOfNest_[static_cast<size_t>(ant.Ref.Nest)];
+  });
   // Beyond the grid's size a reach adds nothing.
-  const size_t reach = static_cast<size_t>(std::min(cellsOfReach, static_cast<double>(std::max(rows, columns))));
+  cellsOfReach_ = static_cast<size_t>(std::min(cellsOfReach, static_cast<double>(std::max(rows, columns))));
   columnColonies_.resize(cellColonies_.size());
-  nearColonies_.resize(cellColonies_.size());
   for (size_t column = 0; column < cellColonies_.size(); column += rows) {
-    SpreadWithinReach(&cellColonies_[column], &columnColonies_[column], rows, 1, reach);
+    SpreadAlongColumn(&cellColonies_[column], &columnColonies_[column], rows, cellsOfReach_);
   }
-  SpreadWithinReach(columnColonies_.data(), nearColonies_.data(), columns, rows, reach);
 }
 
 }  // namespace keldor

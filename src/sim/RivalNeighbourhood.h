@@ -31,6 +31,9 @@ class RivalNeighbourhood {
   // living ant of nest n.
   bool MayMeetRival(int nest) const { return !isolated_[static_cast<size_t>(colonyOfNest_[static_cast<size_t>(nest)])]; }
 
+  // False when no colony comes within reach of another.
+  bool AnyMayMeet() const { return anyMeets_; }
+
   // The colonies with a living ant's head within reach of any point of the
   // cell slot, one bit each; every bit set where no cell summary is kept.
   uint64_t ColoniesNear(size_t slot);
@@ -57,11 +60,12 @@ class RivalNeighbourhood {
   int colonies_ = 0;
   std::vector<int> colonyOfNest_;
   std::vector<bool> isolated_;          // per colony
+  bool anyMeets_ = true;                // some colony is not isolated
   bool cellsSummarised_ = false;
   bool cellSummary_ = false;            // false: every slot may hold every colony
+  size_t cellsOfReach_ = 0;               // slots each way within reach of a slot
   std::vector<uint64_t> cellColonies_;    // per cell slot: the colonies with a head in it
   std::vector<uint64_t> columnColonies_;  // per cell slot: those of the slots within reach in its column
-  std::vector<uint64_t> nearColonies_;    // per cell slot: those of the slots within reach both ways
 };
 
 }  // namespace keldor

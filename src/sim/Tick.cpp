@@ -38,8 +38,9 @@ void AntPass(World& world, RandomSource& random, TickPainter& painter, const Tic
              std::vector<TurnRotation>& turns) {
   const int16_t nestTrace = input.NestTraceSlider.value_or(world.Settings.NestScentMax);
   for (int i = 0; i < world.NestCount; ++i) {
-    turns.clear();
-    for (const Ant& ant : world.Nests[static_cast<size_t>(i)].Ants) turns.push_back(TurnRotation::Of(ant.Angle));
+    const SlotList<Ant>& nestAnts = world.Nests[static_cast<size_t>(i)].Ants;
+    turns.resize(static_cast<size_t>(nestAnts.Count()));
+    for (int j = 1; j < nestAnts.Count(); ++j) turns[static_cast<size_t>(j)] = TurnRotation::Of(nestAnts[j].Angle);
     for (int j = 0; j < world.Nests[static_cast<size_t>(i)].AntCount(); ++j) {
       const SlotList<Ant>& ants = world.Nests[static_cast<size_t>(i)].Ants;
       if (j + PrefetchDistance < ants.Count()) PrefetchCellsAround(world, ants[j + PrefetchDistance]);
