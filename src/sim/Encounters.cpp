@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstdint>
 #include <limits>
+#include <tuple>
 #include <vector>
 
 #include "model/Numeric.h"
@@ -66,24 +67,13 @@ class NearbyEncounters {
 
   // Every living ant bites the first ant its head touches in each rival
   // colony: the lowest-numbered one, as a scan in ant order meets them.
-  // Touches depend only on positions, which no bite changes, so the bites are
-  // found slot by slot, where the index passes over whole slots with no
-  // rival near, and then made in the order of a scan of the ants.
+  // Touches depend only on positions, which no bite changes: the biters are
+  // taken slot by slot from the index, only where a rival colony is near,
+  // and their bites are then made in the order of a scan of the ants.
   void ResolveAll() {
     FindBiters();
     bites_.clear();
-    // Biters lie scattered over the ant records and the grid: each one's
-    // record, then its cell, is asked for some biters ahead.
-    constexpr size_t cellAhead = 8;
-    constexpr size_t recordAhead = 2 * cellAhead;
-    for (size_t k = 0; k < biters_.size(); ++k) {
-      if (k + recordAhead < biters_.size()) __builtin_prefetch(&AntOf(biters_[k + recordAhead]));
-      if (k + cellAhead < biters_.size()) {
-        const Ant& later = AntOf(biters_[k + cellAhead]);
-        __builtin_prefetch(&world_.Cells(later.CellX, later.CellY).AntCount);
-      }
-      FindBites(biters_[k]);
-    }
+    for (const AntRef biter : biters_) FindBites(biter);
     std::sort(bites_.begin(), bites_.end());
     for (const PendingBite& bite : bites_) {
       const Nest& nest = world_.Nests[static_cast<size_t>(bite.Biter.Nest)];
@@ -99,12 +89,9 @@ class NearbyEncounters {
     int VictimNest = 0;
     int VictimAnt = 0;
     bool operator<(const PendingBite& other) const {
-      if (Biter < other.Biter || other.Biter < Biter) return Biter < other.Biter;
-      return VictimNest < other.VictimNest;
+      return std::tie(Biter.Nest, Biter.Ant, VictimNest) < std::tie(other.Biter.Nest, other.Biter.Ant, other.VictimNest);
     }
   };
-
-  const Ant& AntOf(AntRef ref) const { return world_.Nests[static_cast<size_t>(ref.Nest)].Ants[ref.Ant]; }
 
   // The living ants with a rival colony's head within reach of their slot.
   void FindBiters() {

@@ -77,18 +77,20 @@ TEST(FoodPiles, EmissionIsTheWholePartOfTheFullnessAndYieldsToStrongerScent) {
 TEST(FoodPiles, AFullPileSeedsAFreeNeighbourWhileItHasBudget) {
   // Offsets (-1)^(Int(2 r1) + 1) * Int(2 r2) and likewise from r3, r4; the
   // target (6, 5) is blocked by food ('f') or an ant ('a').
-  const struct { int16_t x, budget; double r1, r2, r3, r4; char block; int16_t seedX, seedY; } cases[] = {
-      {5, 3, 0.5, 0.5, 0.5, 0.0, ' ', 6, 5},   // (+1, 0)
-      {5, 3, 0.0, 0.5, 0.75, 0.9, ' ', 4, 6},  // (-1, +1)
-      {5, 0, 0.5, 0.5, 0.5, 0.0, ' ', 0, 0},   // no budget left
-      {5, 3, 0.5, 0.0, 0.5, 0.0, ' ', 0, 0},   // its own cell
-      {5, 3, 0.5, 0.5, 0.5, 0.0, 'f', 0, 0},
-      {5, 3, 0.5, 0.5, 0.5, 0.0, 'a', 0, 0},
-      {20, 3, 0.5, 0.5, 0.5, 0.0, ' ', 0, 0}};  // beyond the last column
+  const struct { int16_t x, y, budget; double r1, r2, r3, r4; char block; int16_t seedX, seedY; } cases[] = {
+      {5, 5, 3, 0.5, 0.5, 0.5, 0.0, ' ', 6, 5},   // (+1, 0)
+      {5, 5, 3, 0.0, 0.5, 0.75, 0.9, ' ', 4, 6},  // (-1, +1)
+      {5, 5, 0, 0.5, 0.5, 0.5, 0.0, ' ', 0, 0},   // no budget left
+      {5, 5, 3, 0.5, 0.0, 0.5, 0.0, ' ', 0, 0},   // its own cell
+      {5, 5, 3, 0.5, 0.5, 0.5, 0.0, 'f', 0, 0},
+      {5, 5, 3, 0.5, 0.5, 0.5, 0.0, 'a', 0, 0},
+      {20, 5, 3, 0.5, 0.5, 0.5, 0.0, ' ', 0, 0},  // beyond the last column
+      {5, 2, 3, 0.5, 0.0, 0.0, 0.5, ' ', 5, 1},   // (0, -1) into the first row
+      {5, 1, 3, 0.5, 0.0, 0.0, 0.5, ' ', 0, 0}};  // (0, -1) above the first row
   for (const auto& c : cases) {
     RuleWorld rule;
     World& world = rule.world;
-    rule.AddPile(c.x, 5, CellCapacity);
+    rule.AddPile(c.x, c.y, CellCapacity);
     world.FoodPiles[0].SpreadBudget = c.budget;
     world.Cells(6, 5).Food = c.block == 'f' ? 1 : 0;
     world.Cells(6, 5).AntCount = c.block == 'a' ? 1 : 0;
