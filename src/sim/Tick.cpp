@@ -32,20 +32,19 @@ void PrefetchCellsAround(const World& world, const Ant& ant) {
 }
 
 // Draws every ant (while ants are shown) and steps the living ones. Each
-// nest's turns are worked out before its ants step, apart from the steps
-// that wait for them: an ant's angle changes only in its own step.
+// nest's worker turns are worked out before its ants step, so that no step
+// waits for them: an ant's angle changes only in its own step (the queen
+// draws hers during it).
 void AntPass(World& world, RandomSource& random, TickPainter& painter, const TickInput& input,
              std::vector<TurnRotation>& turns) {
   const int16_t nestTrace = input.NestTraceSlider.value_or(world.Settings.NestScentMax);
   for (int i = 0; i < world.NestCount; ++i) {
-    const SlotList<Ant>& nestAnts = world.Nests[static_cast<size_t>(i)].Ants;
-    turns.resize(static_cast<size_t>(nestAnts.Count()));
-    for (int j = 1; j < nestAnts.Count(); ++j) turns[static_cast<size_t>(j)] = TurnRotation::Of(nestAnts[j].Angle);
-    for (int j = 0; j < world.Nests[static_cast<size_t>(i)].AntCount(); ++j) {
-      const SlotList<Ant>& ants = world.Nests[static_cast<size_t>(i)].Ants;
-      if (j + PrefetchDistance < ants.Count()) PrefetchCellsAround(world, ants[j + PrefetchDistance]);
+    Nest& nest = world.Nests[static_cast<size_t>(i)];
+    turns.resize(static_cast<size_t>(nest.AntCount()));
+    for (int j = 1; j < nest.AntCount(); ++j) turns[static_cast<size_t>(j)] = TurnRotation::Of(nest.Ants[j].Angle);
+    for (int j = 0; j < nest.AntCount(); ++j) {
+      if (j + PrefetchDistance < nest.AntCount()) PrefetchCellsAround(world, nest.Ants[j + PrefetchDistance]);
       if (input.AntsShown) {
-        Nest& nest = world.Nests[static_cast<size_t>(i)];
         painter.DrawAnt(world, nest, j);
         // A bitten ant is drawn red once, then takes its nest's colour again.
         nest.Ants[j].Colour = nest.Colour;
