@@ -73,7 +73,7 @@ class NearbyEncounters {
   void ResolveAll() {
     FindBiters();
     bites_.clear();
-    for (const AntRef biter : biters_) FindBites(biter);
+    for (const Biter& biter : biters_) FindBites(biter.Ref, biter.ColoniesNear);
     std::sort(bites_.begin(), bites_.end());
     for (const PendingBite& bite : bites_) {
       const Nest& nest = world_.Nests[static_cast<size_t>(bite.Biter.Nest)];
@@ -106,12 +106,13 @@ class NearbyEncounters {
         lastSlot = slot;
         coloniesNear = rivals_.ColoniesNear(slot);
       }
-      if (rivals_.HoldsRival(coloniesNear, nest)) biters_.push_back(ant.Ref);
+      if (rivals_.HoldsRival(coloniesNear, nest)) biters_.push_back({ant.Ref, coloniesNear});
     });
   }
 
-  // Records the bites of one living ant standing in a crowded cell.
-  void FindBites(AntRef ref) {
+  // Records the bites of one living ant standing in a crowded cell; only the
+  // colonies near its slot can be touched.
+  void FindBites(AntRef ref, uint64_t coloniesNear) {
     const int nestIndex = ref.Nest;
     const int antIndex = ref.Ant;
     const int nestCount = world_.NestCount;
@@ -123,7 +124,7 @@ class NearbyEncounters {
     for (int m = 0; m < nestCount; ++m) {
       const Nest& other = world_.Nests[static_cast<size_t>(m)];
       int& first = firstTouch_[static_cast<size_t>(m)];
-      first = other.Signature == nest.Signature ? NotRival : Untouched;
+      first = rivals_.Allied(m, nestIndex) || !rivals_.MayHoldColonyOf(coloniesNear, m) ? NotRival : Untouched;
       if (first == NotRival || other.AntCount() == 0) continue;
       const Ant& queen = other.Ants[0];
       const double queenReach =
@@ -156,7 +157,7 @@ class NearbyEncounters {
     }
   }
 
-  static constexpr int NotRival = -1;  // below every ant number: nothing to test
+  static constexpr int NotRival = -1;  // below every ant number: an ally, or no ant within reach
   static constexpr int Untouched = std::numeric_limits<int>::max();
 
   static double SquaredSpan(const Ant& ant) {
@@ -185,7 +186,11 @@ class NearbyEncounters {
   RivalNeighbourhood& rivals_;
   std::vector<double> queenReach_;  // per nest: the queen's share of a touch reach plus her span
   std::vector<int> firstTouch_;  // per nest: the first touched ant so far, Untouched or NotRival
-  std::vector<AntRef> biters_;
+  struct Biter {
+    AntRef Ref;
+    uint64_t ColoniesNear;  // from its slot's rival summary
+  };
+  std::vector<Biter> biters_;
   std::vector<PendingBite> bites_;
 };
 

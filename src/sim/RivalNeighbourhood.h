@@ -42,6 +42,15 @@ class RivalNeighbourhood {
     const int colony = colonyOfNest_[static_cast<size_t>(nest)];
     return colony >= MaxColonyBits || (colonies & ~(uint64_t{1} << colony)) != 0;
   }
+  // Whether colonies (from ColoniesNear) may hold nest n's colony.
+  bool MayHoldColonyOf(uint64_t colonies, int nest) const {
+    const int colony = colonyOfNest_[static_cast<size_t>(nest)];
+    return colony >= MaxColonyBits || ((colonies >> colony) & 1) != 0;
+  }
+  // Whether nests a and b share a signature.
+  bool Allied(int a, int b) const {
+    return colonyOfNest_[static_cast<size_t>(a)] == colonyOfNest_[static_cast<size_t>(b)];
+  }
   // False when no living ant of a colony other than nest n's has its head
   // within reach of any point of the cell slot.
   bool MayHoldRival(size_t slot, int nest) { return HoldsRival(ColoniesNear(slot), nest); }
