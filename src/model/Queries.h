@@ -1,5 +1,6 @@
-// Small questions asked of the world: whether a nest stands on a cell and how
-// far an ant's head is from another ant's body. None changes anything.
+// Small questions asked of the world: whether a nest stands on a cell, how
+// far an ant's head is from another ant's body and how long its body is.
+// None changes anything.
 #pragma once
 
 #include <cstdint>
@@ -20,6 +21,13 @@ inline double Max(double a, double b) { return a > b ? a : b; }
 
 // Distance, in world units, from a's head to the segment from b's rear to b's head.
 double PointToSegmentDistance(const Ant& a, const Ant& b);
+
+// The square of an ant's length from rear to head, in world units.
+inline double SquaredSpan(const Ant& ant) {
+  const double dx = ant.HeadX - ant.RearX;
+  const double dy = ant.HeadY - ant.RearY;
+  return dx * dx + dy * dy;
+}
 
 // The centre of cell column (or row) `cell` in world units.
 inline double CellCentre(int cell, double cellSize) { return (cell - 1) * cellSize + cellSize / 2; }

@@ -1,5 +1,6 @@
 #include "sim/AntIndex.h"
 
+#include "model/Queries.h"
 #include "model/World.h"
 
 namespace keldor {
@@ -20,11 +21,9 @@ void AntIndex::Rebuild(const World& world) {
       if (!(ant.Energy > 0)) continue;
       const size_t slot = CellSlot(Column(ant.HeadX), Row(ant.HeadY));
       ++cellStart_[slot];
-      scanned_.push_back({{static_cast<int16_t>(n), static_cast<int16_t>(a)}, static_cast<int32_t>(slot), ant.HeadX,
-                          ant.HeadY});
-      const double dx = ant.HeadX - ant.RearX;
-      const double dy = ant.HeadY - ant.RearY;
-      const double squaredSpan = dx * dx + dy * dy;
+      scanned_.push_back({{{static_cast<int16_t>(n), static_cast<int16_t>(a)}, 0, ant.HeadX, ant.HeadY},
+                          static_cast<int>(slot)});
+      const double squaredSpan = SquaredSpan(ant);
       extents_.SquaredSpan = std::max(extents_.SquaredSpan, squaredSpan);
       if (a == 0) {
         extents_.QueenLength = std::max(extents_.QueenLength, ant.Length);
@@ -40,10 +39,10 @@ void AntIndex::Rebuild(const World& world) {
   ants_.resize(scanned_.size());
   slotOfEntry_.resize(scanned_.size());
   for (size_t k = scanned_.size(); k-- > 0;) {
-    const IndexedAnt& ant = scanned_[k];
-    const size_t at = static_cast<size_t>(--cellStart_[static_cast<size_t>(ant.RunEnd)]);
-    ants_[at] = ant;
-    slotOfEntry_[at] = ant.RunEnd;
+    const ScannedAnt& scanned = scanned_[k];
+    const size_t at = static_cast<size_t>(--cellStart_[static_cast<size_t>(scanned.Slot)]);
+    ants_[at] = scanned.Entry;
+    slotOfEntry_[at] = scanned.Slot;
   }
   // A run ends where the next ant belongs to another nest or another cell.
   for (size_t at = ants_.size(); at-- > 0;) {

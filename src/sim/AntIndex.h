@@ -115,7 +115,11 @@ class AntIndex {
   int rows_ = 0;
   std::vector<int> cellStart_;  // ants of cell slot c: ants_[cellStart_[c] .. cellStart_[c + 1])
   std::vector<IndexedAnt> ants_;
-  std::vector<IndexedAnt> scanned_;  // while building: the living ants in scan order, RunEnd holding the slot
+  struct ScannedAnt {
+    IndexedAnt Entry;
+    int Slot = 0;
+  };
+  std::vector<ScannedAnt> scanned_;  // while building: the living ants in scan order
   std::vector<int> slotOfEntry_;     // the cell slot of each entry of ants_
   LivingAntExtents extents_;
   std::vector<AntRef> found_;

@@ -132,14 +132,23 @@ bool CarryingRulesAdmit(const World& world, int16_t nestTrace, const Nest& nest,
   return nw.Signature == nest.Signature && (n.Scent < 0 || nw.Scent != 0) && n.Scent == nw.Scent;  // h
 }
 
+// A worker's step after its turn: the cell it stands on, the cell ahead,
+// whether they are one cell, and the step vector, (head - rear) / s.
+struct WorkerStep {
+  int CurrentX, CurrentY;
+  int TargetX, TargetY;
+  bool StaysInCell;
+  double DX, DY;
+};
+
 // The neighbourhood lookups are pure: each is made only when a rule needs it.
-bool MayStepForward(const World& world, int16_t nestTrace, const Nest& nest, const Ant& ant, int cx, int cy, int nx,
-                    int ny) {
+bool MayStepForward(const World& world, int16_t nestTrace, const Nest& nest, const Ant& ant, const WorkerStep& step) {
+  const int cx = step.CurrentX, cy = step.CurrentY, nx = step.TargetX, ny = step.TargetY;
   if (!InGrid(world, nx, ny) || !IsEdgeNeighbourOrSame(cx, cy, nx, ny) || IsBrick(world, nx, ny)) return false;
   const Cell& c = world.Cells(cx, cy);
   const Cell& n = world.Cells(nx, ny);
   if (!HasRoom(world, nest, n) || !MayEnterTrail(nest, ant, n)) return false;
-  if (nx == cx && ny == cy) return true;  // a
+  if (step.StaysInCell) return true;  // a
   return ant.Load == 0 ? SearchingRulesAdmit(world, nestTrace, cx, cy, c, n)
                        : CarryingRulesAdmit(world, nestTrace, nest, cx, cy, c, n);
 }
@@ -183,15 +192,6 @@ void MoveAntCount(World& world, int fromX, int fromY, int toX, int toY) {
   --world.Cells(fromX, fromY).AntCount;
   ++world.Cells(toX, toY).AntCount;
 }
-
-// A worker's step after its turn: the cell it stands on, the cell ahead,
-// whether they are one cell, and the step vector, (head - rear) / s.
-struct WorkerStep {
-  int CurrentX, CurrentY;
-  int TargetX, TargetY;
-  bool StaysInCell;
-  double DX, DY;
-};
 
 void StepForward(World& world, RandomSource& random, int nestIndex, int antIndex, const WorkerStep& step,
                  int16_t nestTrace) {
@@ -257,7 +257,7 @@ void StepWorker(World& world, RandomSource& random, int nestIndex, int antIndex,
   step.TargetY = cellOf(ant.HeadY + step.DY);
   step.StaysInCell = step.TargetX == step.CurrentX && step.TargetY == step.CurrentY;
 
-  if (MayStepForward(world, nestTrace, nest, ant, step.CurrentX, step.CurrentY, step.TargetX, step.TargetY)) {
+  if (MayStepForward(world, nestTrace, nest, ant, step)) {
     StepForward(world, random, nestIndex, antIndex, step, nestTrace);
   } else {
     BackOff(world, random, nestIndex, antIndex, step, cellOf, before, nestTrace);

@@ -54,14 +54,20 @@ class NearbyEncounters {
   NearbyEncounters(World& world, NeighbourSearch& search)
       : world_(world),
         index_(search.Index),
-        living_(MeasureLivingAnts(search.Index.Extents())),
         rivals_(search.Rivals),
         firstTouch_(static_cast<size_t>(world.NestCount)) {
-    rivals_.Reset(world, index_, living_.Share / world.Settings.ScaleX + std::sqrt(living_.SquaredSpan));
+    const LivingAntExtents& living = index_.Extents();
+    const double scaleX = world.Settings.ScaleX;
+    // A living victim's head lies within the largest touch-reach share
+    // / ScaleX plus the longest body of a biter's head.
+    const double share = std::max(living.QueenLength / QueenReachDivisor, living.WorkerLength / WorkerReachDivisor);
+    rivals_.Reset(world, index_, share / scaleX + std::sqrt(living.SquaredSpan));
+    workerShare_ = living.WorkerLength / WorkerReachDivisor / 2 / scaleX;
+    workerSpan_ = std::sqrt(living.WorkerSquaredSpan);
     queenReach_.reserve(static_cast<size_t>(world.NestCount));
     for (int n = 0; n < world.NestCount; ++n) {
       const Ant& queen = world.Nests[static_cast<size_t>(n)].Ants[0];
-      queenReach_.push_back(ReachShare(queen, 0) / 2 / world.Settings.ScaleX + std::sqrt(SquaredSpan(queen)));
+      queenReach_.push_back(ReachShare(queen, 0) / 2 / scaleX + std::sqrt(SquaredSpan(queen)));
     }
   }
 
@@ -84,6 +90,10 @@ class NearbyEncounters {
   }
 
  private:
+  struct Biter {
+    AntRef Ref;
+    uint64_t ColoniesNear;  // from its slot's rival summary
+  };
   struct PendingBite {
     AntRef Biter;
     int VictimNest = 0;
@@ -134,7 +144,7 @@ class NearbyEncounters {
         first = 0;
       }
     }
-    const double workerReach = biterShare + living_.WorkerLength / WorkerReachDivisor / 2 / scaleX + living_.WorkerSpan;
+    const double workerReach = biterShare + workerShare_ + workerSpan_;
     const double paddedReach = PaddedReach(workerReach, world_.Settings.CellSize);
     index_.ForEachNear(biter.HeadX, biter.HeadY, workerReach, [&](const IndexedAnt& near) {
       // A run lists its nest's ants in rising order: once past the first
@@ -160,36 +170,13 @@ class NearbyEncounters {
   static constexpr int NotRival = -1;  // below every ant number: an ally, or no ant within reach
   static constexpr int Untouched = std::numeric_limits<int>::max();
 
-  static double SquaredSpan(const Ant& ant) {
-    const double dx = ant.HeadX - ant.RearX;
-    const double dy = ant.HeadY - ant.RearY;
-    return dx * dx + dy * dy;
-  }
-
-  // From the index's extents of the living ants: the largest touch-reach
-  // share of all of them, the longest worker and the longest worker body. A
-  // living victim's head lies within share / ScaleX + body of a biter's head.
-  struct LivingAnts {
-    double Share = 0;
-    double SquaredSpan = 0;
-    double WorkerLength = 0;
-    double WorkerSpan = 0;
-  };
-  static LivingAnts MeasureLivingAnts(const LivingAntExtents& extents) {
-    return {std::max(extents.QueenLength / QueenReachDivisor, extents.WorkerLength / WorkerReachDivisor),
-            extents.SquaredSpan, extents.WorkerLength, std::sqrt(extents.WorkerSquaredSpan)};
-  }
-
   World& world_;
   const AntIndex& index_;
-  LivingAnts living_;
   RivalNeighbourhood& rivals_;
+  double workerShare_ = 0;  // the longest worker's share of a touch reach, world units
+  double workerSpan_ = 0;   // the longest worker body, world units
   std::vector<double> queenReach_;  // per nest: the queen's share of a touch reach plus her span
   std::vector<int> firstTouch_;  // per nest: the first touched ant so far, Untouched or NotRival
-  struct Biter {
-    AntRef Ref;
-    uint64_t ColoniesNear;  // from its slot's rival summary
-  };
   std::vector<Biter> biters_;
   std::vector<PendingBite> bites_;
 };
