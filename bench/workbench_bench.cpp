@@ -76,7 +76,7 @@ void BM_FastestWindow(benchmark::State& state) {
   for (auto _ : state) {
     VirtualClock clock(11);
     SilentMessageBox messages;
-    MainWindow window(messages, clock);
+    MainWindow window(messages, &clock);
     window.show();
     window.NewWithSeed(11);
     if (state.range(0) != 0) window.Charts()->show();

@@ -11,25 +11,24 @@
 namespace keldor::bench {
 
 BenchWorld::BenchWorld(int grid, int foodRate, int antsPerNest) {
+  simulation.StepFromSeed(11);
+  simulation.SetTickListener(&events);
   StartUp(world, window);
   NewWorldInputs inputs;
   inputs.GridWidthText = std::to_string(grid);
   inputs.GridHeightText = std::to_string(grid);
   if (foodRate >= 0) world.Settings.FoodRate = static_cast<int16_t>(foodRate);
   if (antsPerNest >= 0) world.Settings.AntsPerNest = static_cast<int16_t>(antsPerNest);
-  NewWorld(world, window, random, inputs);
+  NewWorld(simulation, window, inputs);
   world.Running = true;
 }
 
 void BenchWorld::AddNest(int x, int y) {
-  CreateNest(world, random, static_cast<int16_t>(x), static_cast<int16_t>(y));
+  CreateNest(world, simulation.Random(), static_cast<int16_t>(x), static_cast<int16_t>(y));
 }
 
 void BenchWorld::Tick(int count) {
-  for (int i = 0; i < count; ++i) {
-    clock.Advance(0.075);
-    RunTick(context, painter, TickInputOf(window, world));
-  }
+  for (int i = 0; i < count; ++i) simulation.Tick(painter, TickInputOf(window, world));
 }
 
 std::unique_ptr<BenchWorld> DefaultWorld() { return std::make_unique<BenchWorld>(30, -1, -1); }

@@ -1,26 +1,24 @@
 // The worlds the benchmarks measure, built the way a user would: New, nests
 // placed with CreateNest, walls with the wall tool, then real ticks with
-// nothing drawn. Every world uses a fixed virtual clock, so runs repeat.
+// nothing drawn, through the engine every front end uses. Every world steps
+// its clock from a fixed seed, so runs repeat.
 #pragma once
 
 #include <memory>
 
-#include "model/Random.h"
+#include "engine/Simulation.h"
 #include "model/World.h"
-#include "sim/Tick.h"
 #include "sim/TickPainter.h"
 #include "window/WindowState.h"
 
 namespace keldor::bench {
 
 struct BenchWorld {
-  VirtualClock clock{11};
-  RandomSource random{clock};
-  World world;
+  Simulation simulation;
+  World& world = simulation.TheWorld();
   WindowState window;
   NullPainter painter;
   IgnoredTickEvents events;
-  TickContext context{world, random, events};
 
   // A new running world; a negative foodRate or antsPerNest keeps the
   // start-up default.
@@ -29,7 +27,7 @@ struct BenchWorld {
   BenchWorld& operator=(const BenchWorld&) = delete;
 
   void AddNest(int x, int y);
-  // Runs count ticks 0.075 s apart; the population limit does not pause them.
+  // Runs count ticks; the population limit does not pause them.
   void Tick(int count = 1);
 };
 

@@ -36,23 +36,4 @@ std::optional<std::string> ReadSnapshotFile(const QString& path, World& world, W
   return std::nullopt;
 }
 
-void TakeOverWorld(World& world, WindowState& window, World&& loaded, WindowState&& loadedWindow) {
-  ControlState controls = window.Controls;
-  std::swap(controls.ActionTops[static_cast<size_t>(window.View.CurrentTool)],
-            controls.ActionTops[static_cast<size_t>(loadedWindow.View.CurrentTool)]);
-  controls.CrossHairPointer = loadedWindow.View.CurrentTool != NoTool;
-  controls.WorldControlsEnabled = loadedWindow.TimerEnabled;
-  controls.StopToolTip = loaded.Running ? "Pause" : "Play";
-  controls.StopImage = loaded.Running ? PlayPauseImage::Pause : PlayPauseImage::Play;
-  controls.OdorToolTip = loadedWindow.View.ShowOdor != 0 ? "Hide Odor Traces" : "Show Odor Traces";
-  controls.AntsToolTip = loadedWindow.View.ShowAnts != 0 ? "Hide ants" : "Show ants";
-  controls.PopulationCaption = CStr(loaded.Settings.Population);
-  loadedWindow.Controls = std::move(controls);
-  loadedWindow.View.InfoVisible = window.View.InfoVisible;
-  loadedWindow.PendingGridSize = window.PendingGridSize;
-  world = std::move(loaded);
-  window = std::move(loadedWindow);
-  CollapsePalette(window);
-}
-
 }  // namespace keldor

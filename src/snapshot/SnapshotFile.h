@@ -27,9 +27,4 @@ std::optional<std::string> WriteSnapshotFile(const QString& path, const World& w
 std::optional<std::string> ReadSnapshotFile(const QString& path, World& world, WindowState& window,
                                             ResumeState& resume);
 
-// Replaces the session's world by a loaded one. The window keeps its panels
-// and the grid size waiting for New; its buttons show the loaded world's
-// Play/Pause, odor, ants and tool state and its population.
-void TakeOverWorld(World& world, WindowState& window, World&& loaded, WindowState&& loadedWindow);
-
 }  // namespace keldor

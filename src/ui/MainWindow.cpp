@@ -22,7 +22,8 @@
 #include "platform/SystemRegistry.h"
 #include "window/TerrainTools.h"
 #include "sim/Tick.h"
-#include "snapshot/SnapshotFile.h"
+#include "window/WorldTakeOver.h"
+#include "worldfile/WorldFileIo.h"
 #include "ui/AppTexts.h"
 #include "ui/ButtonPictures.h"
 #include "ui/PictureBox.h"
@@ -50,17 +51,17 @@ void SetToolTip(QWidget* widget, const std::string& text) {
 
 }  // namespace
 
-MainWindow::MainWindow(MessageBox& messages, Clock& clock, QWidget* parent)
+MainWindow::MainWindow(MessageBox& messages, Clock* timeOfDay, QWidget* parent)
     : QMainWindow(parent),
       messages_(messages),
-      runClock_(clock),
-      random_(runClock_),
+      simulation_(timeOfDay),
+      world_(simulation_.TheWorld()),
       scale_(TwipScale::ForWidget(*this)),
       registry_(MakeSystemRegistry()),
       starter_(std::make_unique<QtProgramStarter>()),
       canvases_(QSize(1, 1), QSize(scale_.Pixels(MapBox.Width), scale_.Pixels(MapBox.Height)), window_.View,
-                devicePixelRatioF()),
-      tick_{world_, random_, populationLimit_} {
+                devicePixelRatioF()) {
+  simulation_.SetTickListener(&populationLimit_);
   setObjectName("frmKeldor");
   chooseWorldFile_ = AskForWorldFile;
   setWindowTitle(ApplicationTitle);
@@ -74,7 +75,7 @@ MainWindow::MainWindow(MessageBox& messages, Clock& clock, QWidget* parent)
   BuildInfoPanel(central);
 
   StartUp(world_, window_);
-  timer_.setInterval(TickIntervalMs);
+  timer_.setInterval(TickPeriodMs);
   connect(&timer_, &QTimer::timeout, this, &MainWindow::TimerFired);
   steady_.start();
   resize(scale_.Pixels(InitialWidth - ClassicFrameWidth),
@@ -250,23 +251,28 @@ QString AskForWorldFile(QWidget* parent, const char* caption, QFileDialog::Accep
 void MainWindow::OnSaveWorldAs() {
   const QString path = chooseWorldFile_(this, "Save World As", QFileDialog::AcceptSave);
   if (path.isEmpty()) return;
-  if (const auto fault = WriteSnapshotFile(path, world_, window_, CaptureResumeState(random_, ticksRun_))) messages_.Show(*fault);
+  if (const auto fault = WriteWorldFile(path.toStdString(), world_, window_, simulation_.Resume())) messages_.Show(*fault);
 }
 
 void MainWindow::OnOpenWorld() {
   const QString path = chooseWorldFile_(this, "Open World", QFileDialog::AcceptOpen);
-  if (path.isEmpty()) return;
-  World loaded;
-  WindowState loadedWindow;
-  ResumeState resume;
-  if (const auto fault = ReadSnapshotFile(path, loaded, loadedWindow, resume)) {
+  if (!path.isEmpty()) OpenWorldFile(path);
+}
+
+void MainWindow::OpenWorldFile(const QString& path) {
+  if (simulation_.TickInProgress()) return;
+  WindowRecord loaded;
+  if (const auto fault = simulation_.LoadFile(path.toStdString(), loaded)) {
     messages_.Show(*fault);
     return;
   }
-  TakeOverWorld(world_, window_, std::move(loaded), std::move(loadedWindow));
-  RestoreResumeState(random_, resume);
-  ticksRun_ = static_cast<int>(std::min<int64_t>(resume.Tick, INT_MAX));
+  TakeOverWindow(window_, world_, std::move(loaded));
+  keepClock_ = simulation_.ClockSteps();
+  ChooseClock();
+  chart_.Clear();
+  pick_ = {};
   DoResize();  // the loaded viewport takes this window's terrain size
+  ShowRun();
 }
 
 void MainWindow::OnOptions() {
@@ -289,7 +295,7 @@ void MainWindow::TerrainMouse(int kind, int buttons, QPointF pixel) {
   if (kind == Press) {
     // The press acts on the cell under the pointer, even without a move before it.
     TerrainPointerMoved(world_, window_, 0, x, y);
-    TerrainPointerPressed(world_, window_, random_, buttons);
+    TerrainPointerPressed(world_, window_, simulation_.Random(), buttons);
   } else if (kind == Move) {
     TerrainPointerMoved(world_, window_, buttons, x, y);
   } else {
@@ -378,7 +384,7 @@ void MainWindow::ApplyLayout() {
 void MainWindow::ResizeCanvases() {
   // A tick may be waiting inside the population-limit message, halfway
   // through its drawing: the canvases follow the boxes once it is done.
-  if (tick_.InProgress) return;
+  if (simulation_.TickInProgress()) return;
   canvases_.Resize(picTerreno_->size(), picMapa_->size());
 }
 

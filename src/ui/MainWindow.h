@@ -18,10 +18,9 @@
 #include <memory>
 #include <optional>
 
-#include "model/Random.h"
+#include "engine/Simulation.h"
 #include "window/WindowLayout.h"
 #include "model/World.h"
-#include "sim/Tick.h"
 #include "window/Commands.h"
 #include "window/WindowState.h"
 #include "platform/ViewCanvases.h"
@@ -30,7 +29,6 @@
 #include "window/FastestPacer.h"
 #include "window/PickReport.h"
 #include "window/RunChart.h"
-#include "window/RunClock.h"
 #include "window/RunSpeed.h"
 #include "window/TickRate.h"
 
@@ -51,22 +49,21 @@ class OptionsDialog;
 class ChartsWindow;
 class PickWindow;
 
-inline constexpr int TickIntervalMs = TickPeriodMs;
-
 class MainWindow : public QMainWindow {
   Q_OBJECT
 
  public:
-  // messages shows the population-limit and System Info messages; clock seeds
-  // the random source.
-  MainWindow(MessageBox& messages, Clock& clock, QWidget* parent = nullptr);
+  // messages shows the population-limit and System Info messages; timeOfDay
+  // is the time of day the random source reads (null: the system's).
+  explicit MainWindow(MessageBox& messages, Clock* timeOfDay = nullptr, QWidget* parent = nullptr);
   ~MainWindow() override;
 
-  World& TheWorld() { return world_; }
+  World& TheWorld() { return simulation_.TheWorld(); }
+  Simulation& TheSimulation() { return simulation_; }
   WindowState& Window() { return window_; }
   const WindowLayout& Layout() const { return layout_; }
   TwipScale Scale() const { return scale_; }
-  // Ticks run to completion so far, counted on from its saved tick after Open World.
+  // Timer ticks run to completion so far, paused ones included.
   int TicksRun() const { return ticksRun_; }
   // Runs one tick now, as the tick timer does.
   void AdvanceTick();
@@ -79,8 +76,11 @@ class MainWindow : public QMainWindow {
   RunSpeed Speed() const { return speed_; }
   void SetSpeed(RunSpeed speed);
   int TimerInterval() const { return timer_.interval(); }
-  // Ticks the world has run since New.
-  int64_t WorldTicks() const { return worldTicks_; }
+  // Ticks the world has run since New, counted on from a loaded world's tick.
+  int64_t WorldTicks() const { return simulation_.Ticks(); }
+  // Opens a world file, as File > Open World does after its dialog; a bad
+  // file is reported in a message box and the current world stays.
+  void OpenWorldFile(const QString& path);
   // New, with the random source's clock started from the seed as keldor-headless --seed starts it.
   void NewWithSeed(uint64_t seed);
   // One tick of a paused world.
@@ -114,6 +114,8 @@ class MainWindow : public QMainWindow {
 
   void BuildRunMenus(QMenu* file, QMenu* tools);
   void StartNewWorld(std::optional<uint64_t> seed);
+  // The clock for the speed, unless the run keeps its own.
+  void ChooseClock();
   void AskSeed();
   void TimerFired();
   // Runs one tick drawing on `painter`, with the run clock, tick count and
@@ -136,17 +138,17 @@ class MainWindow : public QMainWindow {
   void ShowFrame();
 
   MessageBox& messages_;
-  RunClock runClock_;
-  RandomSource random_;
-  World world_;
+  Simulation simulation_;
+  World& world_;
   WindowState window_;
-  PopulationLimitNotice populationLimit_{world_, window_, messages_};
+  PopulationLimitNotice populationLimit_{simulation_.TheWorld(), window_, messages_};
+  // The stepped clock came from a seed or a world file: every speed keeps it.
+  bool keepClock_ = false;
   WindowLayout layout_;
   TwipScale scale_;
   std::unique_ptr<Registry> registry_;
   std::unique_ptr<ProgramStarter> starter_;
   ViewCanvases canvases_;
-  TickContext tick_;
   QTimer timer_;
   bool showing_ = false;
   int ticksRun_ = 0;
@@ -155,7 +157,6 @@ class MainWindow : public QMainWindow {
 
   QAction* mnuFileSaveAs_ = nullptr;
   RunSpeed speed_ = RunSpeed::Normal;
-  int64_t worldTicks_ = 0;
   NullPainter noDrawing_;
   QElapsedTimer steady_;
   FastestPacer pacer_;

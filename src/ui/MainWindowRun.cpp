@@ -12,7 +12,6 @@
 #include "window/MessageBox.h"
 #include "window/OptionsForm.h"
 #include "render/PickMarker.h"
-#include "sim/Tick.h"
 #include "ui/ChartsWindow.h"
 #include "ui/PickWindow.h"
 #include "ui/PictureBox.h"
@@ -83,23 +82,26 @@ void MainWindow::BuildRunMenus(QMenu* file, QMenu* tools) {
 
 void MainWindow::SetSpeed(RunSpeed speed) {
   speed_ = speed;
-  // A seeded world keeps its seed's clock; otherwise 1x reads the time of day
-  // and the other speeds step from it as it is now.
-  if (!runClock_.Seed()) {
-    if (speed == RunSpeed::Normal) runClock_.FollowTimeOfDay();
-    else runClock_.StepFromTimeOfDay();
-  }
+  ChooseClock();
   mnuSpeed_[static_cast<size_t>(speed)]->setChecked(true);
   ShowControls();
   ShowRun();
 }
 
+void MainWindow::ChooseClock() {
+  // A world made with a seed or opened from a file keeps its stepped clock;
+  // otherwise 1x reads the time of day and the other speeds step from it as
+  // it is now.
+  if (keepClock_) return;
+  if (speed_ == RunSpeed::Normal) simulation_.FollowTimeOfDay();
+  else simulation_.StepFromTimeOfDay();
+}
+
 void MainWindow::StartNewWorld(std::optional<uint64_t> seed) {
-  if (seed) runClock_.StepFromSeed(*seed);
-  else if (speed_ == RunSpeed::Normal) runClock_.FollowTimeOfDay();
-  else runClock_.StepFromTimeOfDay();
-  NewFromOptions(world_, window_, random_);
-  worldTicks_ = 0;
+  keepClock_ = seed.has_value();
+  if (seed) simulation_.StepFromSeed(*seed);
+  else ChooseClock();
+  NewFromOptions(simulation_, window_);
   chart_.Clear();
   pick_ = {};
   ShowRun();
@@ -118,7 +120,7 @@ void MainWindow::AskSeed() {
   dialog.setObjectName("dlgSeed");
   dialog.setWindowTitle("New with Seed");
   dialog.setLabelText("Seed (a whole number):");
-  dialog.setTextValue(QString::number(runClock_.Seed().value_or(1)));
+  dialog.setTextValue(QString::number(simulation_.Seed().value_or(1)));
   if (dialog.exec() != QDialog::Accepted) return;
   bool ok = false;
   const qulonglong seed = dialog.textValue().trimmed().toULongLong(&ok);
@@ -130,7 +132,7 @@ void MainWindow::AskSeed() {
 }
 
 void MainWindow::Step() {
-  if (tick_.InProgress || !world_.HasWorld() || world_.Running) return;
+  if (simulation_.TickInProgress() || !world_.HasWorld() || world_.Running) return;
   world_.Running = true;
   AdvanceTick();
   world_.Running = false;  // the population limit may have paused it already
@@ -143,14 +145,11 @@ void MainWindow::TimerFired() {
 }
 
 bool MainWindow::RunOneTick(TickPainter& painter) {
-  if (tick_.InProgress) return false;
   const bool ran = world_.Running;
-  runClock_.BeginTick();
-  keldor::RunTick(tick_, painter, TickInputOf(window_, world_));
-  runClock_.EndTick(ran);
+  if (!simulation_.Tick(painter, TickInputOf(window_, world_))) return false;
   ShowPopulation(world_, window_);
   ++ticksRun_;
-  if (ran) chart_.Record(++worldTicks_, world_);
+  if (ran) chart_.Record(simulation_.Ticks(), world_);
   return true;
 }
 
@@ -163,7 +162,7 @@ void MainWindow::ShowTick() {
 }
 
 void MainWindow::RunFastestSlice() {
-  if (tick_.InProgress) return;
+  if (simulation_.TickInProgress()) return;
   double now = Seconds();
   pacer_.StartSlice(now);
   // Undrawn ticks change the world as drawn ones do: the painter only reads it.
@@ -181,9 +180,9 @@ void MainWindow::RunFastestSlice() {
 
 void MainWindow::ShowRun() {
   const double now = Seconds();
-  rate_.Update(now, worldTicks_);
+  rate_.Update(now, simulation_.Ticks());
   const QString status = QString::fromStdString(
-      StatusText({world_.HasWorld(), world_.Running, worldTicks_, runClock_.Seed(), speed_, rate_.PerSecond()}));
+      StatusText({world_.HasWorld(), world_.Running, simulation_.Ticks(), simulation_.Seed(), speed_, rate_.PerSecond()}));
   if (lblStatus_ != nullptr && lblStatus_->text() != status) lblStatus_->setText(status);
   if (charts_ && charts_->isVisible() && now - chartsShownAt_ >= ChartRefreshSeconds) {
     charts_->Refresh();

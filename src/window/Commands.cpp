@@ -1,5 +1,6 @@
 #include "window/Commands.h"
 
+#include "engine/Simulation.h"
 #include "model/Numeric.h"
 #include "model/World.h"
 #include "model/WorldCreation.h"
@@ -20,7 +21,8 @@ void StartUp(World& world, WindowState& window) {
   window.ViewCentreY = static_cast<float>((map.Top + map.Height) * 0.5);
 }
 
-void NewWorld(World& world, WindowState& window, RandomSource& random, const NewWorldInputs& inputs) {
+void NewWorld(Simulation& simulation, WindowState& window, const NewWorldInputs& inputs) {
+  World& world = simulation.TheWorld();
   ViewState& view = window.View;
   view.TerrainFontSize = 8;
   view.ZoomX = NewWorldZoom;
@@ -33,7 +35,7 @@ void NewWorld(World& world, WindowState& window, RandomSource& random, const New
   window.Controls.OdorToolTip = "Odor Traces";
   SetScrollRanges(window);
   CentreScrollBars(window);
-  CreateWorld(world, random, inputs);
+  simulation.New(inputs);
   const double cellSize = world.Settings.CellSize;
   window.HScroll1.SmallChange = ClampToInt16(CInt(cellSize * view.ZoomX));
   window.VScroll1.SmallChange = ClampToInt16(CInt(cellSize * view.ZoomY));

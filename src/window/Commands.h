@@ -11,8 +11,8 @@ namespace keldor {
 struct World;
 struct WindowState;
 struct NewWorldInputs;
-class RandomSource;
 class MessageBox;
+class Simulation;
 
 // Start-up (the main window's load): the world's settings, zoom 10, centred
 // scroll bars and the view centre on the middle of the map.
@@ -22,7 +22,7 @@ void StartUp(World& world, WindowState& window);
 // ants shown, controls enabled, a paused Play/Pause button, the odor tool
 // tip, centred scroll bars, scroll steps from the new cell size), the new
 // world with the cursor on its first nest, and the tick timer enabled.
-void NewWorld(World& world, WindowState& window, RandomSource& random, const NewWorldInputs& inputs);
+void NewWorld(Simulation& simulation, WindowState& window, const NewWorldInputs& inputs);
 
 // Caption "v" and height 555: the closed tool palette.
 void CollapsePalette(WindowState& window);

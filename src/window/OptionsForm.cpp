@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "engine/Simulation.h"
 #include "model/Numeric.h"
 #include "model/Queries.h"
 #include "model/World.h"
@@ -107,8 +108,9 @@ void OptionsForm::ApplyOptions() {
   WorldSettings& s = world_.Settings;
   int16_t* components[3] = {&s.AntRed, &s.AntGreen, &s.AntBlue};
   for (int i = 0; i < 3; ++i) {
-    // A box typed while another held no number was never corrected: clamp it here too.
-    if (IsNumeric(colour_[i])) *components[i] = static_cast<int16_t>(ColourComponent(colour_[i]));
+    // The box's number rounded half to even; one typed while another box
+    // held no number was never corrected, so it is held to 0..255 here too.
+    if (IsNumeric(colour_[i])) *components[i] = static_cast<int16_t>(std::clamp<int32_t>(CInt(std::clamp(ToNumber(colour_[i]), -1e9, 1e9)), 0, 255));
   }
   s.AntColour = Colour(s.AntRed, s.AntGreen, s.AntBlue);
   s.FoodRate = static_cast<int16_t>(foodRate_);
@@ -117,14 +119,16 @@ void OptionsForm::ApplyOptions() {
   if (IsNumeric(gridX_)) window_.PendingGridSize = static_cast<int16_t>(GridSizeFromText(gridX_));
 }
 
-NewWorldInputs OptionsNewWorldInputs(const World& world, const WindowState& window) {
-  const WorldSettings& s = world.Settings;
-  const std::string grid = CStr(window.PendingGridSize != 0 ? window.PendingGridSize : s.GridX);
-  return NewWorldInputs{grid, grid, CStr(s.AntSizeMm), s.LifeSpan};
-}
-
-void NewFromOptions(World& world, WindowState& window, RandomSource& random) {
-  NewWorld(world, window, random, OptionsNewWorldInputs(world, window));
+void NewFromOptions(Simulation& simulation, WindowState& window) {
+  NewWorldInputs inputs;
+  {
+    // New loads the dialog to read it: loading fills it from the settings,
+    // which takes over the population, ant length and colour again, so a
+    // colour typed and then cancelled does not reach the new world.
+    const OptionsForm form(simulation.TheWorld(), window);
+    inputs = {form.GridDimXText(), form.GridDimYText(), form.AntSizeText(), form.LifeSpan()};
+  }
+  NewWorld(simulation, window, inputs);
   window.PendingGridSize = 0;
 }
 

@@ -22,7 +22,7 @@ namespace keldor {
 
 struct World;
 struct WindowState;
-class RandomSource;
+class Simulation;
 
 enum class ColourBox { Red = 0, Green = 1, Blue = 2 };
 
@@ -93,13 +93,10 @@ class OptionsForm {
   Colour preview_{};
 };
 
-// What New reads from the options dialog as it would be filled now: the grid
-// size waiting from the last OK (else the current one), the ant size and the
-// life span.
-NewWorldInputs OptionsNewWorldInputs(const World& world, const WindowState& window);
-
-// New as the File menu and the Start button run it: reads the dialog's values
-// and uses up the waiting grid size.
-void NewFromOptions(World& world, WindowState& window, RandomSource& random);
+// New as the File menu and the Start button run it: loads the dialog, which
+// fills it from the settings, reads its grid size (the one waiting from the
+// last OK, else the current one), ant size and life span, and uses up the
+// waiting grid size.
+void NewFromOptions(Simulation& simulation, WindowState& window);
 
 }  // namespace keldor

@@ -121,6 +121,19 @@ void ZoomOut(WindowState& window) {
   SetTerrainFontForZoom(window);
 }
 
+void ZoomTo(WindowState& window, int zoom) {
+  const double target = Max(2, zoom);
+  // A press that no longer changes a huge zoom ends the walk.
+  for (double before = 0; window.View.ZoomX < target && window.View.ZoomX != before;) {
+    before = window.View.ZoomX;
+    ZoomIn(window);
+  }
+  for (double before = 0; window.View.ZoomX > target && window.View.ZoomX != before;) {
+    before = window.View.ZoomX;
+    ZoomOut(window);
+  }
+}
+
 void ResizeTerrainView(WindowState& window, double newWidth, double newHeight) {
   ViewScale& t = window.View.Terrain;
   const double oldWidth = t.Width;

@@ -28,6 +28,9 @@ void RecentreView(WindowState& window);
 // keep the view centre and fit the terrain font size into 1..8.
 void ZoomIn(WindowState& window);
 void ZoomOut(WindowState& window);
+// The zoom and view the zoom buttons reach at `zoom` (at least 2): each press
+// clamps the view centre at its own zoom, so the steps are taken one by one.
+void ZoomTo(WindowState& window, int zoom);
 
 // The viewport part of a window resize: the terrain view's inner size became
 // newWidth x newHeight terrain units. Keeps the world point at the centre

@@ -46,7 +46,7 @@ TEST(WorldCreationTest, NewAndCreateNestDrawInTheirOrder) {
   draws.insert(draws.end(), 20, 0.5);
   testing::ScriptedDraws script(draws);
   t.random.UseScript(&script);
-  NewWorld(w, t.window, t.random, {"2", "2", "3", 100});
+  NewWorld(t.simulation, t.window, {"2", "2", "3", 100});
   // New's reseed, the signature's reseed and 16 draws, 4 per ant, 1 per free cell and 2 per pile.
   EXPECT_EQ(script.Log, "RR" + std::string(31, 'd'));
   const Nest& n = w.Nests[0];
@@ -86,16 +86,16 @@ TEST(WorldCreationTest, GridTextRulesAndFoodRateExtremes) {
   EXPECT_EQ(TestWorld(1, {"1", "1", "3", 100}).world.Cells(1, 1).AntCount, 30);  // a one-cell world holds its nest
   // A text that is not a number keeps the grid of the last New.
   TestWorld t(1, {"12", "12", "3", 100});
-  NewWorld(t.world, t.window, t.random, {"abc", "abc", "3", 100});
+  NewWorld(t.simulation, t.window, {"abc", "abc", "3", 100});
   EXPECT_EQ(t.world.Cells.Columns(), 14);
 
   t.world.Settings.FoodRate = 0;
   ToggleAnts(t.window);
-  NewWorld(t.world, t.window, t.random, {});
+  NewWorld(t.simulation, t.window, {});
   EXPECT_EQ(t.world.FoodPileCount(), 0);
   EXPECT_TRUE(t.window.View.ShowAnts == 1 && t.window.Controls.AntsToolTip == "Show ants") << "New leaves the tool tip";
   t.world.Settings.FoodRate = 100;
-  NewWorld(t.world, t.window, t.random, {});
+  NewWorld(t.simulation, t.window, {});
   EXPECT_EQ(t.world.FoodPileCount(), 899);
 }
 

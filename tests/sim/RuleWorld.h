@@ -7,6 +7,7 @@
 
 #include <cstdint>
 
+#include "engine/Simulation.h"
 #include "window/Commands.h"
 #include "window/WindowState.h"
 #include "model/Random.h"
@@ -20,12 +21,12 @@ namespace keldor::testing {
 inline constexpr double CellCapacity = 785398.15;
 
 struct RuleWorld {
-  explicit RuleWorld(int16_t antsPerNest = 30) : random(clock) {
+  explicit RuleWorld(int16_t antsPerNest = 30) {
     world.Settings.GridX = 20;  // start-up sizes the seeded pile from it
     StartUp(world, window);
     world.Settings.FoodRate = 0;
     world.Settings.AntsPerNest = antsPerNest;
-    NewWorld(world, window, random, {"20", "20", "3", 100});
+    NewWorld(simulation, window, {"20", "20", "3", 100});
     world.Running = true;
   }
 
@@ -55,8 +56,9 @@ struct RuleWorld {
   }
 
   VirtualClock clock{1};
-  RandomSource random;
-  World world;
+  Simulation simulation{&clock};
+  World& world = simulation.TheWorld();
+  RandomSource& random = simulation.Random();
   WindowState window;
 };
 

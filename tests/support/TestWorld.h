@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <memory>
 
+#include "engine/Simulation.h"
 #include "window/Commands.h"
 #include "model/Random.h"
 #include "model/World.h"
@@ -15,14 +16,15 @@
 namespace keldor::testing {
 
 struct TestWorld {
-  explicit TestWorld(uint64_t seed = 1, const NewWorldInputs& inputs = {}) : clock(seed), random(clock) {
+  explicit TestWorld(uint64_t seed = 1, const NewWorldInputs& inputs = {}) : clock(seed) {
     StartUp(world, window);
-    NewWorld(world, window, random, inputs);
+    NewWorld(simulation, window, inputs);
   }
 
   VirtualClock clock;
-  RandomSource random;
-  World world;
+  Simulation simulation{&clock};
+  World& world = simulation.TheWorld();
+  RandomSource& random = simulation.Random();
   WindowState window;
 };
 

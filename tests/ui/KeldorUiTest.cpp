@@ -19,7 +19,6 @@
 #include "model/Random.h"
 #include "window/SystemInfo.h"
 #include "platform/NoRegistry.h"
-#include "snapshot/StateJson.h"
 #include "ui/PictureBox.h"
 #include "ui/AboutBox.h"
 #include "ui/MainWindow.h"
@@ -99,6 +98,9 @@ class NoPrograms : public ProgramStarter {
   std::vector<std::string> started;
 };
 
+// The world file of the window's run.
+std::string SavedText(MainWindow& window) { return window.TheSimulation().SaveText(window.Window()); }
+
 }  // namespace
 
 class KeldorUiTest : public QObject {
@@ -107,7 +109,7 @@ class KeldorUiTest : public QObject {
  private slots:
   void init() {
     clock_ = std::make_unique<VirtualClock>(7);
-    window_ = std::make_unique<MainWindow>(messages_, *clock_);
+    window_ = std::make_unique<MainWindow>(messages_, clock_.get());
     window_->show();
     QVERIFY(QTest::qWaitForWindowExposed(window_.get()));
   }
@@ -125,7 +127,7 @@ class KeldorUiTest : public QObject {
     QTemporaryDir dir;
     const QString path = dir.filePath("world.json");
     QVERIFY(!Child<QAction>(W(), "mnuFileSaveAs")->isEnabled());  // nothing to save before New
-    Click(W(), "btnStart");
+    window_->NewWithSeed(5);  // a stepped clock: the file holds its time
     Click(W(), "btnStop");
     Click(W(), "btnOdor");
     for (int i = 0; i < 20; ++i) window_->AdvanceTick();
@@ -133,30 +135,30 @@ class KeldorUiTest : public QObject {
     // Ticked straight on, without the event loop (and Timer1) in between.
     const auto tenTicksOn = [](MainWindow& window) {
       for (int i = 0; i < 10; ++i) window.AdvanceTick();
-      return StateJson(window.TheWorld(), window.Window(), ResumeState{});
+      return SavedText(window);
     };
-    const QJsonObject straight = tenTicksOn(*window_);
-    const int ticks = window_->TicksRun();
+    const std::string straight = tenTicksOn(*window_);
+    const int64_t ticks = window_->WorldTicks();
 
     VirtualClock otherClock(99);
-    MainWindow opened(messages_, otherClock);
+    MainWindow opened(messages_, &otherClock);
     opened.show();
     ChooseFile(opened, "mnuFileOpen", path);
     QCOMPARE(tenTicksOn(opened), straight);
-    QCOMPARE(opened.TicksRun(), ticks);
+    QCOMPARE(opened.WorldTicks(), ticks);
     QCOMPARE(Child<QPushButton>(&opened, "btnStop")->toolTip(), QString("Pause"));
     QCOMPARE(Child<QPushButton>(&opened, "btnOdor")->toolTip(), QString("Hide Odor Traces"));
 
     // A damaged file is reported and leaves the world as it was.
     QFile damaged(dir.filePath("damaged.json"));
     QVERIFY(damaged.open(QIODevice::WriteOnly));
-    damaged.write(QJsonDocument(straight).toJson().replace("\"GridX\": 30", "\"GridX\": -30"));
+    damaged.write(QByteArray::fromStdString(straight).replace("\"GridX\": 30", "\"GridX\": -30"));
     damaged.close();
-    const QJsonObject before = StateJson(opened.TheWorld(), opened.Window(), ResumeState{});
+    const std::string before = SavedText(opened);
     ChooseFile(opened, "mnuFileOpen", damaged.fileName());
     QCOMPARE(messages_.shown.size(), size_t{1});
     QVERIFY2(messages_.shown[0].find("GridX: not a whole number") != std::string::npos, messages_.shown[0].c_str());
-    QCOMPARE(StateJson(opened.TheWorld(), opened.Window(), ResumeState{}), before);
+    QCOMPARE(SavedText(opened), before);
   }
 
   void startsWithoutAWorldAndWithFaintDisabledButtons() {

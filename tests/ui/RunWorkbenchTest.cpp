@@ -14,7 +14,6 @@
 #include <sstream>
 
 #include "app/headless/HeadlessRun.h"
-#include "snapshot/StateJson.h"
 #include "window/MessageBox.h"
 #include "model/Random.h"
 #include "ui/ChartsWindow.h"
@@ -36,16 +35,13 @@ void Trigger(QWidget* window, const char* action) {
   item->trigger();
 }
 
-// The state of the world and the window after the run. The random source's
-// words and clock are left out (the window does not show them), and so is the
-// viewport, whose size is the window's own.
+// The world file of the window's run.
 QJsonObject Json(MainWindow& window) {
-  return StateJson(window.TheWorld(), window.Window(), ResumeState{window.WorldTicks(), {}, std::nullopt});
+  return QJsonDocument::fromJson(QByteArray::fromStdString(window.TheSimulation().SaveText(window.Window()))).object();
 }
 
+// Without the viewport, whose size is the window's own.
 QJsonObject WorldAndSettings(QJsonObject state) {
-  state.remove("RandomState");
-  state.remove("ClockTime");
   state.remove("View");
   return state;
 }
@@ -186,7 +182,7 @@ class RunWorkbenchTest : public QObject {
 
  private:
   std::unique_ptr<MainWindow> Open() {
-    auto window = std::make_unique<MainWindow>(messages_, clock_);
+    auto window = std::make_unique<MainWindow>(messages_, &clock_);
     window->show();
     if (!QTest::qWaitForWindowExposed(window.get())) qFatal("window not exposed");
     return window;

@@ -63,6 +63,14 @@ TEST_F(OptionsFormTest, TextBoxesAreCorrectedAsTyped) {
   form.ApplyOptions();
   EXPECT_EQ(s.AntColour, Colour(0, 100, 255));
   EXPECT_TRUE(s.AntRed == 0 && s.AntBlue == 255);
+  // OK rounds an uncorrected number half to even, as CInt does: 2.7 gives 3, 2.5 gives 2.
+  form.ColourTyped(ColourBox::Green, "x");
+  form.ColourTyped(ColourBox::Red, "2.7");
+  form.ColourTyped(ColourBox::Blue, "2.5");
+  form.ColourTyped(ColourBox::Green, "5");
+  form.ApplyOptions();
+  EXPECT_TRUE(s.AntRed == 3 && s.AntGreen == 5 && s.AntBlue == 2);
+  EXPECT_EQ(s.AntColour.Packed(), 3u + 256u * 5 + 65536u * 2);
 }
 
 TEST_F(OptionsFormTest, CancelKeepsOnlyWhatWasTakenOverOnChange) {
@@ -89,6 +97,9 @@ TEST_F(OptionsFormTest, CancelKeepsOnlyWhatWasTakenOverOnChange) {
   EXPECT_EQ(s.LifeSpan, 100);
   EXPECT_EQ(s.FoodRate, 2);
   EXPECT_EQ(window.PendingGridSize, 0);
+  // New fills the dialog again from the settings: the cancelled colour is gone.
+  NewFromOptions(t.simulation, window);
+  EXPECT_EQ(w.Nests[0].Colour, Colour(150, 100, 70));
 }
 
 TEST_F(OptionsFormTest, OkTakesTheRestAndTheEditedGridWaitsForTheNextNew) {
@@ -108,13 +119,13 @@ TEST_F(OptionsFormTest, OkTakesTheRestAndTheEditedGridWaitsForTheNextNew) {
   EXPECT_EQ(window.View.ToolColour, Colour(150, 100, 200));
   EXPECT_EQ(s.GridX, 30);
   EXPECT_EQ(OptionsForm(w, window).GridDimXText(), "21");
-  NewFromOptions(w, window, t.random);
+  NewFromOptions(t.simulation, window);
   EXPECT_EQ(s.GridY, 21);
   EXPECT_EQ(w.Nests[0].CellX, 10);
   EXPECT_EQ(w.Nests[0].LifeSpan, 50);
   EXPECT_EQ(w.AntSizeTwips, CInt(2 * 56.7));
   EXPECT_EQ(window.PendingGridSize, 0);
-  NewFromOptions(w, window, t.random);  // the next New keeps the size
+  NewFromOptions(t.simulation, window);  // the next New keeps the size
   EXPECT_EQ(s.GridX, 21);
 }
 

@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "model/Random.h"
-#include "window/RunClock.h"
+#include "engine/RunClock.h"
 #include "window/RunSpeed.h"
 #include "window/StatusText.h"
 

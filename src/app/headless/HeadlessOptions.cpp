@@ -31,6 +31,7 @@ QList<QCommandLineOption> DefineOptions() {
       {"food", "Lay a food pile on cell X,Y unless it holds food. May repeat.", "X,Y"},
       {"ticks", "Run N ticks (default 0).", "N"},
       {"paused", "Run the ticks with the world paused."},
+      {"play", "Play a loaded world that was saved paused."},
       {"json", "Write the final state of the world to FILE.", "FILE"},
       {"csv", "Write one row of totals per tick to FILE.", "FILE"},
       {"png", "Write the last frame (terrain view and mini-map) to FILE.", "FILE"},
@@ -251,6 +252,8 @@ ParsedArguments ParseHeadlessArguments(const QStringList& arguments) {
   ReadScenario(ScenarioInOrder(arguments, options), read, o.Scenario);
   if (parser.isSet("ticks")) o.Ticks = read.Integer("ticks", parser.value("ticks"), 0, MaxTicks).value_or(0);
   o.Paused = parser.isSet("paused");
+  o.Play = parser.isSet("play");
+  if (o.Paused && o.Play) read.Fail("--play: cannot be given with --paused");
   ReadViewOptions(parser, read, o.View);
   ReadOutputs(parser, read, o);
   if (read.Failed()) {

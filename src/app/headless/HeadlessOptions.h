@@ -59,6 +59,7 @@ struct HeadlessOptions {
   std::vector<ScenarioStep> Scenario;
   int64_t Ticks = 0;
   bool Paused = false;
+  bool Play = false;  // play a loaded world that was saved paused
   ViewOptions View;
   QString JsonPath;
   QString CsvPath;

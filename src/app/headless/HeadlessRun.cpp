@@ -13,14 +13,12 @@
 #include "app/headless/TickCsv.h"
 #include "app/headless/TickLoop.h"
 #include "app/headless/WorldSetup.h"
-#include "model/Random.h"
+#include "engine/Simulation.h"
 #include "model/World.h"
-#include "window/Commands.h"
-#include "window/WindowState.h"
-#include "platform/SystemClock.h"
 #include "platform/ViewCanvases.h"
 #include "sim/TickPainter.h"
-#include "snapshot/SnapshotFile.h"
+#include "window/Commands.h"
+#include "window/WindowState.h"
 
 namespace keldor::headless {
 
@@ -51,32 +49,17 @@ int RunHeadless(const QStringList& arguments, std::ostream& out, std::ostream& e
   if (parsed.Result == ParsedArguments::Outcome::Error) return Fail(err, parsed.Message.toStdString(), ExitBadArguments);
   const HeadlessOptions& options = parsed.Options;
 
-  std::optional<World> loaded;
-  WindowState loadedWindow;
-  ResumeState resume;
+  Simulation simulation;
+  WindowState window;
   if (!options.LoadPath.isEmpty()) {
-    loaded.emplace();
-    if (const auto fault = ReadSnapshotFile(options.LoadPath, *loaded, loadedWindow, resume)) {
+    if (const auto fault = simulation.LoadFile(options.LoadPath.toStdString(), window)) {
       return Fail(err, "--load: " + *fault, ExitBadArguments);
     }
   }
-
-  // --seed restarts the clock; otherwise a loaded virtual clock continues.
-  std::optional<VirtualClock> virtualClock;
-  SystemClock systemClock;
-  if (options.Seed) {
-    virtualClock.emplace(*options.Seed);
-  } else if (resume.ClockTime) {
-    virtualClock.emplace(0);
-    virtualClock->SetNow(*resume.ClockTime);
-  }
-  RandomSource random(virtualClock ? static_cast<Clock&>(*virtualClock) : systemClock);
-  World world;
-  WindowState window;
-  if (loaded) random.SetState(resume.Random);
-  const auto problem = loaded ? ContinueWorld(world, window, std::move(*loaded), std::move(loadedWindow), random, options)
-                              : BuildWorld(world, window, random, options);
+  const auto problem = options.LoadPath.isEmpty() ? BuildWorld(simulation, window, options)
+                                                  : ContinueWorld(simulation, window, options);
   if (problem) return Fail(err, *problem, ExitBadArguments);
+  World& world = simulation.TheWorld();
 
   OutputFiles files;
   if (const auto fault = files.Open(options)) return Fail(err, *fault, ExitBadArguments);
@@ -85,6 +68,7 @@ int RunHeadless(const QStringList& arguments, std::ostream& out, std::ostream& e
 
   StreamMessageBox messages(err);
   PopulationLimitNotice populationLimit(world, window, messages);
+  simulation.SetTickListener(&populationLimit);
   // Every tick clears both views and draws them whole, so drawing only the
   // ticks whose frame is saved gives the frames the window shows after them.
   NullPainter noDrawing;
@@ -92,20 +76,20 @@ int RunHeadless(const QStringList& arguments, std::ostream& out, std::ostream& e
   if (files.Png() != nullptr || files.WritesFrames()) {
     views.emplace(QSize(options.View.Width, options.View.Height), MapBoxPixels(), window.View);
   }
-  const int64_t first = resume.Tick + 1;
-  const int64_t last = resume.Tick + options.Ticks;
+  // Ticks and rows count on from the loaded world's tick.
+  const int64_t first = simulation.Ticks() + 1;
+  const int64_t last = simulation.Ticks() + options.Ticks;
   const auto savesFrame = [&](int64_t tick) { return files.WritesFrames() && tick % options.Every == 0; };
   const auto painterFor = [&](int64_t tick) -> TickPainter& {
     if (tick == last && files.Png() != nullptr) return views->Painter();
     return savesFrame(tick) ? static_cast<TickPainter&>(views->Painter()) : noDrawing;
   };
-  const TickLoop loop{world, window, random, populationLimit, virtualClock ? &*virtualClock : nullptr};
   std::optional<std::string> frameFault;
   const auto start = std::chrono::steady_clock::now();
-  int64_t lastRun = resume.Tick;
+  int64_t lastRun = first - 1;
   {
     ProgressLine progress(err, showProgress, first, last);
-    lastRun = RunTicks(loop, first, last, painterFor, [&](int64_t tick) {
+    lastRun = RunTicks(simulation, window, first, last, painterFor, [&](int64_t tick) {
       if (csv) csv->WriteRow(tick, world);
       if (savesFrame(tick)) frameFault = files.WriteFrame(tick, views->Frame());
       progress.TickDone(tick);
@@ -118,7 +102,7 @@ int RunHeadless(const QStringList& arguments, std::ostream& out, std::ostream& e
     return Fail(err, "interrupted after tick " + std::to_string(lastRun) + "; no file was replaced", ExitInterrupted + signal);
   }
 
-  if (QSaveFile* json = files.Json()) json->write(SnapshotText(world, window, CaptureResumeState(random, last)));
+  if (QSaveFile* json = files.Json()) json->write(QByteArray::fromStdString(simulation.SaveText(window)));
   if (QSaveFile* png = files.Png()) views->Frame().save(png, "PNG");
   if (const auto fault = files.Commit()) return Fail(err, *fault, ExitWriteFailed);
   PrintSummary(out, world, options.Ticks, elapsed.count());

@@ -1,6 +1,7 @@
 #include "app/headless/WorldSetup.h"
 
 #include "app/headless/ScenarioSetup.h"
+#include "engine/Simulation.h"
 #include "window/Commands.h"
 #include "model/Numeric.h"
 #include "window/Viewport.h"
@@ -45,42 +46,40 @@ std::optional<std::string> ApplySettings(World& world, const WorldOptions& optio
   return std::nullopt;
 }
 
-// The zoom and display buttons, pressed only where the world differs.
+// The zoom, and the odor and ants shown as asked.
 void ApplyView(WindowState& window, const ViewOptions& view) {
-  if (view.Zoom) {
-    while (window.View.ZoomX < *view.Zoom) ZoomIn(window);
-    while (window.View.ZoomX > *view.Zoom) ZoomOut(window);
-  }
-  if (view.Odor && window.View.ShowOdor == 0) ToggleOdor(window);
-  if (view.HideAnts && window.View.ShowAnts != 0) ToggleAnts(window);
+  if (view.Zoom) ZoomTo(window, *view.Zoom);
+  if (view.Odor) window.View.ShowOdor = 1;
+  if (view.HideAnts) window.View.ShowAnts = 0;
 }
 
 }  // namespace
 
-std::optional<std::string> BuildWorld(World& world, WindowState& window, RandomSource& random,
-                                      const HeadlessOptions& options) {
+std::optional<std::string> BuildWorld(Simulation& simulation, WindowState& window, const HeadlessOptions& options) {
+  World& world = simulation.TheWorld();
   StartUp(world, window);
   ResizeTerrainView(window, options.View.Width * TwipsPerPixel, options.View.Height * TwipsPerPixel);
   NewWorldInputs inputs;
   if (auto problem = ApplySettings(world, options.World, inputs)) return problem;
-  NewWorld(world, window, random, inputs);
-  if (auto problem = ApplyScenario(world, window, random, options.Scenario)) return problem;
+  if (options.Seed) simulation.StepFromSeed(*options.Seed);
+  NewWorld(simulation, window, inputs);
+  if (auto problem = ApplyScenario(world, window, simulation.Random(), options.Scenario)) return problem;
   ApplyView(window, options.View);
-  if (!options.Paused) TogglePlayPause(world, window);
+  world.Running = !options.Paused;
   return std::nullopt;
 }
 
-std::optional<std::string> ContinueWorld(World& world, WindowState& window, World&& loaded, WindowState&& loadedWindow,
-                                         RandomSource& random, const HeadlessOptions& options) {
-  world = std::move(loaded);
-  window = std::move(loadedWindow);
+std::optional<std::string> ContinueWorld(Simulation& simulation, WindowState& window, const HeadlessOptions& options) {
+  World& world = simulation.TheWorld();
   const double width = options.View.Width * TwipsPerPixel;
   const double height = options.View.Height * TwipsPerPixel;
   const ViewScale& terrain = window.View.Terrain;
   if (terrain.Width != width || terrain.Height != height) ResizeTerrainView(window, width, height);
-  if (auto problem = ApplyScenario(world, window, random, options.Scenario)) return problem;
+  if (options.Seed) simulation.StepFromSeed(*options.Seed);
+  if (auto problem = ApplyScenario(world, window, simulation.Random(), options.Scenario)) return problem;
   ApplyView(window, options.View);
-  if (options.Paused && world.Running) TogglePlayPause(world, window);
+  if (options.Paused) world.Running = false;
+  if (options.Play) world.Running = true;
   return std::nullopt;
 }
 

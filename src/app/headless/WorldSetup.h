@@ -1,7 +1,8 @@
-// Builds the world a batch run starts from, as a user of the desktop program
-// would: start-up, the window sized to the requested view, the options dialog's
-// settings, New, the scenario, the zoom and display buttons, then Play unless
-// the run is to stay paused; or from a world state file.
+// Builds the world a batch run starts from on the run's engine: start-up, the
+// terrain view sized to the requested view, the world settings the options
+// dialog would set, New on the run's clock, the scenario, the zoom and
+// display, then playing unless the run is to stay paused; or continues a
+// world loaded from a world file.
 #pragma once
 
 #include <optional>
@@ -10,22 +11,20 @@
 #include "app/headless/HeadlessOptions.h"
 
 namespace keldor {
-struct World;
 struct WindowState;
-class RandomSource;
+class Simulation;
 }  // namespace keldor
 
 namespace keldor::headless {
 
 // Returns the message naming the argument when the options do not fit the
 // world (an ant longer than the nest radius, a scenario cell outside it...).
-std::optional<std::string> BuildWorld(World& world, WindowState& window, RandomSource& random,
-                                      const HeadlessOptions& options);
+std::optional<std::string> BuildWorld(Simulation& simulation, WindowState& window, const HeadlessOptions& options);
 
-// Takes over a loaded world instead: the terrain view resized when its size
-// differs, the scenario, the zoom, odor and ants as asked, and Pause when the
-// run is to stay paused; otherwise the world plays or stays paused as saved.
-std::optional<std::string> ContinueWorld(World& world, WindowState& window, World&& loaded, WindowState&& loadedWindow,
-                                         RandomSource& random, const HeadlessOptions& options);
+// Continues the world the run has loaded (with its window fields in
+// `window`): the terrain view resized when its size differs, the clock
+// restarted from --seed, the scenario, the zoom, odor and ants as asked, and
+// paused or played as asked; otherwise the world plays or stays paused as saved.
+std::optional<std::string> ContinueWorld(Simulation& simulation, WindowState& window, const HeadlessOptions& options);
 
 }  // namespace keldor::headless

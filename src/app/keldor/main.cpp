@@ -4,7 +4,6 @@
 #include <memory>
 
 #include "platform/QtMessageBox.h"
-#include "platform/SystemClock.h"
 #include "ui/AppTexts.h"
 #include "ui/ButtonPictures.h"
 #include "ui/MainWindow.h"
@@ -15,11 +14,10 @@ int main(int argc, char* argv[]) {
   QApplication::setApplicationName(keldor::ApplicationTitle);
   QApplication::setWindowIcon(keldor::AppIcon());
 
-  keldor::SystemClock clock;
   keldor::QtMessageBox messages;
   std::unique_ptr<keldor::MainWindow> main;
   auto* splash = new keldor::SplashScreen([&] {
-    main = std::make_unique<keldor::MainWindow>(messages, clock);
+    main = std::make_unique<keldor::MainWindow>(messages);
     main->show();
   });
   splash->show();

@@ -1,9 +1,8 @@
-// keldor-screenshot: builds the default world in the main window, plays it
-// with the odor traces shown for a number of ticks, and saves the window's
-// picture to a PNG; with "charts", a world made by New with Seed, run at
-// Fastest, paused, with the Keldor Charts window beside it. Used
-// for the documentation; run with the offscreen platform or under a virtual
-// display.
+// keldor-screenshot: builds the default world in the main window with New
+// with Seed, plays it with the odor traces shown for a number of ticks, and
+// saves the window's picture to a PNG; with "charts", run at Fastest, paused,
+// with the Keldor Charts window beside it. Used for the documentation; run
+// with the offscreen platform or under a virtual display.
 //   keldor-screenshot OUTPUT.png [TICKS] [SEED] [charts]
 #include <QApplication>
 #include <QPainter>
@@ -13,7 +12,6 @@
 #include <cstdlib>
 #include <string_view>
 
-#include "model/Random.h"
 #include "platform/QtMessageBox.h"
 #include "ui/AppTexts.h"
 #include "ui/ChartsWindow.h"
@@ -30,23 +28,15 @@ int main(int argc, char* argv[]) {
   const uint64_t seed = argc > 3 ? std::strtoull(argv[3], nullptr, 10) : 1;
   const bool charts = argc > 4 && std::string_view(argv[4]) == "charts";
 
-  keldor::VirtualClock clock(seed);
   keldor::QtMessageBox messages;
-  keldor::MainWindow window(messages, clock);
+  keldor::MainWindow window(messages);
   window.show();
   const auto click = [&](const char* button) { window.findChild<QPushButton*>(button)->click(); };
-  if (charts) {
-    window.NewWithSeed(seed);
-    window.SetSpeed(keldor::RunSpeed::Fastest);
-  } else {
-    click("btnStart");
-  }
+  window.NewWithSeed(seed);
+  if (charts) window.SetSpeed(keldor::RunSpeed::Fastest);
   click("btnStop");
   click("btnOdor");
-  for (int i = 0; i < ticks; ++i) {
-    clock.Advance(keldor::TickIntervalMs / 1000.0);
-    window.AdvanceTick();
-  }
+  for (int i = 0; i < ticks; ++i) window.AdvanceTick();
   if (charts) click("btnStop");  // paused: no more ticks before the picture
   QApplication::processEvents();
   QImage picture = window.grab().toImage();

@@ -6,7 +6,7 @@
 #include "app/headless/TickCsv.h"
 #include "app/headless/TickLoop.h"
 #include "app/headless/WorldSetup.h"
-#include "model/Random.h"
+#include "engine/Simulation.h"
 #include "model/World.h"
 #include "sim/TickPainter.h"
 #include "sim/TickTotals.h"
@@ -17,23 +17,22 @@ namespace keldor::sweep {
 
 RunOutcome RunOne(const headless::HeadlessOptions& options, int64_t every) {
   RunOutcome outcome;
-  VirtualClock clock(options.Seed.value_or(0));
-  RandomSource random(clock);
-  World world;
+  Simulation simulation;
   WindowState window;
-  outcome.Error = headless::BuildWorld(world, window, random, options);
+  outcome.Error = headless::BuildWorld(simulation, window, options);
   if (outcome.Error) return outcome;
+  const World& world = simulation.TheWorld();
 
   std::ostringstream messages;
   std::ostringstream series;
   headless::StreamMessageBox messageBox(messages);
-  PopulationLimitNotice populationLimit(world, window, messageBox);
+  PopulationLimitNotice populationLimit(simulation.TheWorld(), window, messageBox);
+  simulation.SetTickListener(&populationLimit);
   std::optional<headless::TickCsv> seriesCsv;
   if (every > 0) seriesCsv.emplace(series);
   NullPainter noDrawing;
-  const headless::TickLoop loop{world, window, random, populationLimit, &clock};
   const auto painterFor = [&](int64_t) -> TickPainter& { return noDrawing; };
-  headless::RunTicks(loop, 1, options.Ticks, painterFor, [&](int64_t tick) {
+  headless::RunTicks(simulation, window, 1, options.Ticks, painterFor, [&](int64_t tick) {
     if (seriesCsv && tick % every == 0) seriesCsv->WriteRow(tick, world);
     return true;
   });
@@ -47,11 +46,9 @@ RunOutcome RunOne(const headless::HeadlessOptions& options, int64_t every) {
 }
 
 std::optional<std::string> CheckWorld(const headless::HeadlessOptions& options) {
-  VirtualClock clock(options.Seed.value_or(0));
-  RandomSource random(clock);
-  World world;
+  Simulation simulation;
   WindowState window;
-  return headless::BuildWorld(world, window, random, options);
+  return headless::BuildWorld(simulation, window, options);
 }
 
 }  // namespace keldor::sweep

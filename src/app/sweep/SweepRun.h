@@ -1,5 +1,5 @@
-// One run of a sweep, in the calling thread. Every run has its own clock,
-// random source and world, so runs on several threads share nothing.
+// One run of a sweep, in the calling thread. Every run has its own engine
+// (world, random source, clock), so runs on several threads share nothing.
 #pragma once
 
 #include <cstdint>

@@ -12,6 +12,7 @@
 
 #include "app/headless/WorldSetup.h"
 #include "headless/run/InProcessRun.h"
+#include "engine/Simulation.h"
 #include "model/Queries.h"
 #include "support/TestWorld.h"
 
@@ -20,15 +21,15 @@ namespace {
 
 // The world BuildWorld makes from a command line, with the clock the tests seed.
 struct Built {
-  explicit Built(QStringList arguments) : clock(3), random(clock) {
+  explicit Built(QStringList arguments) : clock(3) {
     arguments.prepend("keldor-headless");
     const ParsedArguments p = ParseHeadlessArguments(arguments);
     EXPECT_EQ(p.Result, ParsedArguments::Outcome::Run) << p.Message.toStdString();
-    problem = BuildWorld(world, window, random, p.Options);
+    problem = BuildWorld(simulation, window, p.Options);
   }
   VirtualClock clock;
-  RandomSource random;
-  World world;
+  Simulation simulation{&clock};
+  World& world = simulation.TheWorld();
   WindowState window;
   std::optional<std::string> problem;
 };

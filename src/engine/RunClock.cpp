@@ -1,6 +1,6 @@
-#include "window/RunClock.h"
+#include "engine/RunClock.h"
 
-#include "window/RunSpeed.h"
+#include "engine/TickPeriod.h"
 
 namespace keldor {
 
@@ -25,9 +25,15 @@ void RunClock::StepFromSeed(uint64_t seed) {
   seed_ = seed;
 }
 
-VirtualClock* RunClock::VirtualInUse() {
-  if (stepped_) return &*stepped_;
-  return dynamic_cast<VirtualClock*>(&timeOfDay_);
+void RunClock::StepFrom(double secondsSinceMidnight, std::optional<uint64_t> seed) {
+  stepped_ = VirtualClock::StartingAt(0);
+  stepped_->SetNow(secondsSinceMidnight);
+  seed_ = seed;
+}
+
+std::optional<double> RunClock::SteppedTime() const {
+  if (!stepped_) return std::nullopt;
+  return stepped_->Now();
 }
 
 void RunClock::BeginTick() { atTickStart_ = stepped_; }
@@ -35,7 +41,7 @@ void RunClock::BeginTick() { atTickStart_ = stepped_; }
 void RunClock::EndTick(bool ran) {
   if (!stepped_ || !atTickStart_) return;
   if (ran) {
-    stepped_->Advance(TickPeriodMs / 1000.0);
+    stepped_->Advance(TickPeriodSeconds);
   } else {
     stepped_ = atTickStart_;
   }
