@@ -1,6 +1,7 @@
 #include "ui/MainWindow.h"
 
 #include <QCloseEvent>
+#include <QFile>
 #include <QFileDialog>
 #include <QFrame>
 #include <QLabel>
@@ -22,7 +23,9 @@
 #include "platform/SystemRegistry.h"
 #include "window/TerrainTools.h"
 #include "sim/Tick.h"
-#include "snapshot/SnapshotFile.h"
+#include "window/ResumeCapture.h"
+#include "window/WorldTakeOver.h"
+#include "worldfile/WorldFileIo.h"
 #include "ui/AppTexts.h"
 #include "ui/ButtonPictures.h"
 #include "ui/PictureBox.h"
@@ -250,16 +253,19 @@ QString AskForWorldFile(QWidget* parent, const char* caption, QFileDialog::Accep
 void MainWindow::OnSaveWorldAs() {
   const QString path = chooseWorldFile_(this, "Save World As", QFileDialog::AcceptSave);
   if (path.isEmpty()) return;
-  if (const auto fault = WriteSnapshotFile(path, world_, window_, CaptureResumeState(random_, ticksRun_))) messages_.Show(*fault);
+  const ResumeState resume = CaptureResumeState(random_, ticksRun_);
+  if (const auto fault = WriteWorldFile(QFile::encodeName(path).toStdString(), world_, window_, resume)) {
+    messages_.Show(*fault);
+  }
 }
 
 void MainWindow::OnOpenWorld() {
   const QString path = chooseWorldFile_(this, "Open World", QFileDialog::AcceptOpen);
   if (path.isEmpty()) return;
   World loaded;
-  WindowState loadedWindow;
+  WindowRecord loadedWindow;
   ResumeState resume;
-  if (const auto fault = ReadSnapshotFile(path, loaded, loadedWindow, resume)) {
+  if (const auto fault = ReadWorldFile(QFile::encodeName(path).toStdString(), loaded, loadedWindow, resume)) {
     messages_.Show(*fault);
     return;
   }

@@ -19,7 +19,7 @@
 #include "model/Random.h"
 #include "window/SystemInfo.h"
 #include "platform/NoRegistry.h"
-#include "snapshot/StateJson.h"
+#include "support/WorldFileJson.h"
 #include "ui/PictureBox.h"
 #include "ui/AboutBox.h"
 #include "ui/MainWindow.h"

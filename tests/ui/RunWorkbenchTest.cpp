@@ -14,7 +14,7 @@
 #include <sstream>
 
 #include "app/headless/HeadlessRun.h"
-#include "snapshot/StateJson.h"
+#include "support/WorldFileJson.h"
 #include "window/MessageBox.h"
 #include "model/Random.h"
 #include "ui/ChartsWindow.h"
@@ -37,15 +37,16 @@ void Trigger(QWidget* window, const char* action) {
 }
 
 // The state of the world and the window after the run. The random source's
-// words and clock are left out (the window does not show them), and so is the
+// words, clock and seed are left out (the window does not show them), and so is the
 // viewport, whose size is the window's own.
 QJsonObject Json(MainWindow& window) {
-  return StateJson(window.TheWorld(), window.Window(), ResumeState{window.WorldTicks(), {}, std::nullopt});
+  return StateJson(window.TheWorld(), window.Window(), ResumeState{window.WorldTicks(), {}, std::nullopt, std::nullopt});
 }
 
 QJsonObject WorldAndSettings(QJsonObject state) {
   state.remove("RandomState");
   state.remove("ClockTime");
+  state.remove("Seed");
   state.remove("View");
   return state;
 }

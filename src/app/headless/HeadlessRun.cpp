@@ -1,5 +1,6 @@
 #include "app/headless/HeadlessRun.h"
 
+#include <QFile>
 #include <chrono>
 #include <iomanip>
 #include <memory>
@@ -20,7 +21,9 @@
 #include "platform/SystemClock.h"
 #include "platform/ViewCanvases.h"
 #include "sim/TickPainter.h"
-#include "snapshot/SnapshotFile.h"
+#include "window/ResumeCapture.h"
+#include "worldfile/WorldFile.h"
+#include "worldfile/WorldFileIo.h"
 
 namespace keldor::headless {
 
@@ -52,11 +55,11 @@ int RunHeadless(const QStringList& arguments, std::ostream& out, std::ostream& e
   const HeadlessOptions& options = parsed.Options;
 
   std::optional<World> loaded;
-  WindowState loadedWindow;
+  WindowRecord loadedWindow;
   ResumeState resume;
   if (!options.LoadPath.isEmpty()) {
     loaded.emplace();
-    if (const auto fault = ReadSnapshotFile(options.LoadPath, *loaded, loadedWindow, resume)) {
+    if (const auto fault = ReadWorldFile(QFile::encodeName(options.LoadPath).toStdString(), *loaded, loadedWindow, resume)) {
       return Fail(err, "--load: " + *fault, ExitBadArguments);
     }
   }
@@ -118,7 +121,13 @@ int RunHeadless(const QStringList& arguments, std::ostream& out, std::ostream& e
     return Fail(err, "interrupted after tick " + std::to_string(lastRun) + "; no file was replaced", ExitInterrupted + signal);
   }
 
-  if (QSaveFile* json = files.Json()) json->write(SnapshotText(world, window, CaptureResumeState(random, last)));
+  if (QSaveFile* json = files.Json()) {
+    ResumeState saved = CaptureResumeState(random, last);
+    // The clock restarted from --seed, or continued from the loaded file's.
+    saved.Seed = options.Seed ? options.Seed : resume.Seed;
+    const std::string text = WorldFileText(world, window, saved);
+    json->write(text.data(), static_cast<qint64>(text.size()));
+  }
   if (QSaveFile* png = files.Png()) views->Frame().save(png, "PNG");
   if (const auto fault = files.Commit()) return Fail(err, *fault, ExitWriteFailed);
   PrintSummary(out, world, options.Ticks, elapsed.count());

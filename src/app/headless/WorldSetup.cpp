@@ -70,10 +70,10 @@ std::optional<std::string> BuildWorld(World& world, WindowState& window, RandomS
   return std::nullopt;
 }
 
-std::optional<std::string> ContinueWorld(World& world, WindowState& window, World&& loaded, WindowState&& loadedWindow,
+std::optional<std::string> ContinueWorld(World& world, WindowState& window, World&& loaded, WindowRecord&& loadedWindow,
                                          RandomSource& random, const HeadlessOptions& options) {
   world = std::move(loaded);
-  window = std::move(loadedWindow);
+  static_cast<WindowRecord&>(window) = std::move(loadedWindow);
   const double width = options.View.Width * TwipsPerPixel;
   const double height = options.View.Height * TwipsPerPixel;
   const ViewScale& terrain = window.View.Terrain;

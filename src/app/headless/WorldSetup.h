@@ -8,6 +8,7 @@
 #include <string>
 
 #include "app/headless/HeadlessOptions.h"
+#include "worldfile/WindowRecord.h"
 
 namespace keldor {
 struct World;
@@ -25,7 +26,7 @@ std::optional<std::string> BuildWorld(World& world, WindowState& window, RandomS
 // Takes over a loaded world instead: the terrain view resized when its size
 // differs, the scenario, the zoom, odor and ants as asked, and Pause when the
 // run is to stay paused; otherwise the world plays or stays paused as saved.
-std::optional<std::string> ContinueWorld(World& world, WindowState& window, World&& loaded, WindowState&& loadedWindow,
+std::optional<std::string> ContinueWorld(World& world, WindowState& window, World&& loaded, WindowRecord&& loadedWindow,
                                          RandomSource& random, const HeadlessOptions& options);
 
 }  // namespace keldor::headless

@@ -1,4 +1,4 @@
-#include "snapshot/ResumeState.h"
+#include "window/ResumeCapture.h"
 
 #include "window/RunClock.h"
 
