@@ -42,21 +42,21 @@ void PrintSummary(std::ostream& out, const World& world, int64_t ticks, double s
 
 }  // namespace
 
-int RunHeadless(const QStringList& arguments, std::ostream& out, std::ostream& err, bool showProgress) {
+int RunHeadless(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& err, bool showProgress) {
   const ParsedArguments parsed = ParseHeadlessArguments(arguments);
-  if (parsed.Result == ParsedArguments::Outcome::Help) {
-    out << parsed.Message.toStdString();
+  if (parsed.Result == ParsedArguments::Outcome::Help || parsed.Result == ParsedArguments::Outcome::Version) {
+    out << parsed.Message;
     return ExitOk;
   }
-  if (parsed.Result == ParsedArguments::Outcome::Error) return Fail(err, parsed.Message.toStdString(), ExitBadArguments);
+  if (parsed.Result == ParsedArguments::Outcome::Error) return Fail(err, parsed.Message, ExitBadArguments);
   const HeadlessOptions& options = parsed.Options;
 
   std::optional<World> loaded;
   WindowState loadedWindow;
   ResumeState resume;
-  if (!options.LoadPath.isEmpty()) {
+  if (!options.LoadPath.empty()) {
     loaded.emplace();
-    if (const auto fault = ReadSnapshotFile(options.LoadPath, *loaded, loadedWindow, resume)) {
+    if (const auto fault = ReadSnapshotFile(QString::fromStdString(options.LoadPath), *loaded, loadedWindow, resume)) {
       return Fail(err, "--load: " + *fault, ExitBadArguments);
     }
   }

@@ -81,6 +81,7 @@ std::optional<std::string> ContinueWorld(World& world, WindowState& window, Worl
   if (auto problem = ApplyScenario(world, window, random, options.Scenario)) return problem;
   ApplyView(window, options.View);
   if (options.Paused && world.Running) TogglePlayPause(world, window);
+  if (options.Play && !world.Running) TogglePlayPause(world, window);
   return std::nullopt;
 }
 

@@ -24,7 +24,8 @@ std::optional<std::string> BuildWorld(World& world, WindowState& window, RandomS
 
 // Takes over a loaded world instead: the terrain view resized when its size
 // differs, the scenario, the zoom, odor and ants as asked, and Pause when the
-// run is to stay paused; otherwise the world plays or stays paused as saved.
+// run is to stay paused, Play when it is to play; otherwise the world plays or
+// stays paused as saved.
 std::optional<std::string> ContinueWorld(World& world, WindowState& window, World&& loaded, WindowState&& loadedWindow,
                                          RandomSource& random, const HeadlessOptions& options);
 
