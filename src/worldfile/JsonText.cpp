@@ -145,7 +145,7 @@ std::string NumberText(double value) {
   } else if (n == 1 && point <= 0) {
     bias -= 1;
   }
-  const bool decimal = point <= 0 ? 1 - point <= bias : point <= n || point <= n + bias;
+  const bool decimal = point <= 0 ? 1 - point <= bias : point <= n + bias;
   const std::string digits(d.Text, static_cast<size_t>(n));
   std::string text = value < 0 ? "-" : "";
   if (!decimal) {
@@ -154,7 +154,8 @@ std::string NumberText(double value) {
     return text + "e" + ExponentText(point - 1);
   }
   if (point <= 0) return text + "0." + std::string(static_cast<size_t>(-point), '0') + digits;
-  if (point < n) return text + digits.substr(0, static_cast<size_t>(point)) + "." + digits.substr(static_cast<size_t>(point));
+  const auto whole = static_cast<size_t>(point);
+  if (point < n) return text + digits.substr(0, whole) + "." + digits.substr(whole);
   return text + digits + std::string(static_cast<size_t>(point - n), '0');
 }
 
