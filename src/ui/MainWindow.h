@@ -74,6 +74,9 @@ class MainWindow : public QMainWindow {
   // Qt's file dialog unless replaced.
   using WorldFileChooser = std::function<QString(QWidget* parent, const char* caption, QFileDialog::AcceptMode mode)>;
   void SetWorldFileChooser(WorldFileChooser choose) { chooseWorldFile_ = std::move(choose); }
+  // Continues from the world state file at path, as Open World does once a
+  // file is chosen; a file that cannot be read shows its fault instead.
+  void OpenWorldFile(const QString& path);
 
   // Run control, status line, charts and inspector.
   RunSpeed Speed() const { return speed_; }

@@ -1,8 +1,16 @@
 // keldor: the desktop program. The splash screen comes first and hands over
 // to the main window; the process ends when the last window closes.
+//
+//   keldor [--version] [--help] [FILE]
+//
+// FILE is a world state file, opened once the main window shows.
 #include <QApplication>
+#include <QCommandLineParser>
+#include <cstdio>
+#include <cstdlib>
 #include <memory>
 
+#include "Version.h"
 #include "platform/QtMessageBox.h"
 #include "platform/SystemClock.h"
 #include "ui/AppTexts.h"
@@ -10,10 +18,58 @@
 #include "ui/MainWindow.h"
 #include "ui/SplashScreen.h"
 
+namespace {
+
+void DescribeCommandLine(QCommandLineParser& parser) {
+  parser.setApplicationDescription("Keldor, an ant-colony foraging simulation.");
+  parser.addHelpOption();
+  parser.addVersionOption();
+  parser.addPositionalArgument("FILE", "A world state file (as File > Save World As... writes it) to continue from.",
+                               "[FILE]");
+}
+
+// True when the command line asks for --help or --version. The toolkit's own
+// options (-platform, -style...) are only known once the QApplication has
+// taken them out, so this first look decides nothing else.
+bool AsksForHelpOrVersion(int argc, char* argv[]) {
+  QStringList arguments;
+  for (int i = 0; i < argc; ++i) arguments << QString::fromLocal8Bit(argv[i]);
+  QCommandLineParser look;
+  DescribeCommandLine(look);
+  look.parse(arguments);
+  return look.isSet("help") || look.isSet("version");
+}
+
+// Prints the help or the version, or the fault of a bad command line, and
+// exits, without asking the window system for a display: this works on a bare
+// terminal.
+[[noreturn]] void AnswerWithoutDisplay(int argc, char* argv[]) {
+  QCoreApplication app(argc, argv);
+  QCoreApplication::setApplicationName("keldor");
+  QCoreApplication::setApplicationVersion(keldor::KeldorVersion);
+  QCommandLineParser parser;
+  DescribeCommandLine(parser);
+  parser.process(app);
+  std::exit(0);
+}
+
+}  // namespace
+
 int main(int argc, char* argv[]) {
+  if (AsksForHelpOrVersion(argc, argv)) AnswerWithoutDisplay(argc, argv);
+
   QApplication app(argc, argv);
   QApplication::setApplicationName(keldor::ApplicationTitle);
   QApplication::setWindowIcon(keldor::AppIcon());
+  QCommandLineParser parser;
+  DescribeCommandLine(parser);
+  parser.process(app);
+  const QStringList files = parser.positionalArguments();
+  if (files.size() > 1) {
+    std::fprintf(stderr, "keldor: one world file at most\n");
+    return 1;
+  }
+  const QString worldFile = files.isEmpty() ? QString() : files.first();
 
   keldor::SystemClock clock;
   keldor::QtMessageBox messages;
@@ -21,6 +77,7 @@ int main(int argc, char* argv[]) {
   auto* splash = new keldor::SplashScreen([&] {
     main = std::make_unique<keldor::MainWindow>(messages, clock);
     main->show();
+    if (!worldFile.isEmpty()) main->OpenWorldFile(worldFile);
   });
   splash->show();
   // Desktops often leave a splash window without the keyboard; ask for it so
