@@ -7,10 +7,9 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <cstdio>
-#include <cstdlib>
 #include <memory>
 
-#include "Version.h"
+#include "app/keldor/HelpOrVersion.h"
 #include "platform/QtMessageBox.h"
 #include "platform/SystemClock.h"
 #include "ui/AppTexts.h"
@@ -28,35 +27,10 @@ void DescribeCommandLine(QCommandLineParser& parser) {
                                "[FILE]");
 }
 
-// True when the command line asks for --help or --version. The toolkit's own
-// options (-platform, -style...) are only known once the QApplication has
-// taken them out, so this first look decides nothing else.
-bool AsksForHelpOrVersion(int argc, char* argv[]) {
-  QStringList arguments;
-  for (int i = 0; i < argc; ++i) arguments << QString::fromLocal8Bit(argv[i]);
-  QCommandLineParser look;
-  DescribeCommandLine(look);
-  look.parse(arguments);
-  return look.isSet("help") || look.isSet("version");
-}
-
-// Prints the help or the version, or the fault of a bad command line, and
-// exits, without asking the window system for a display: this works on a bare
-// terminal.
-[[noreturn]] void AnswerWithoutDisplay(int argc, char* argv[]) {
-  QCoreApplication app(argc, argv);
-  QCoreApplication::setApplicationName("keldor");
-  QCoreApplication::setApplicationVersion(keldor::KeldorVersion);
-  QCommandLineParser parser;
-  DescribeCommandLine(parser);
-  parser.process(app);
-  std::exit(0);
-}
-
 }  // namespace
 
 int main(int argc, char* argv[]) {
-  if (AsksForHelpOrVersion(argc, argv)) AnswerWithoutDisplay(argc, argv);
+  keldor::AnswerHelpOrVersion(argc, argv, "keldor", DescribeCommandLine);
 
   QApplication app(argc, argv);
   QApplication::setApplicationName(keldor::ApplicationTitle);

@@ -12,19 +12,16 @@
 #include <algorithm>
 #include <cstdio>
 
-#include "Version.h"
+#include "app/keldor/HelpOrVersion.h"
 #include "model/Random.h"
 #include "platform/QtMessageBox.h"
 #include "ui/AppTexts.h"
 #include "ui/ChartsWindow.h"
 #include "ui/MainWindow.h"
 
-int main(int argc, char* argv[]) {
-  QApplication app(argc, argv);
-  // --help and --version name this tool; the window keeps the program's title.
-  QApplication::setApplicationName("keldor-screenshot");
-  QApplication::setApplicationVersion(keldor::KeldorVersion);
-  QCommandLineParser parser;
+namespace {
+
+void DescribeCommandLine(QCommandLineParser& parser) {
   parser.setApplicationDescription(
       "Plays the default world with the odor traces shown for TICKS ticks of seed SEED and saves the main "
       "window's picture to OUTPUT.png; with \"charts\", a world made by New with Seed, run at Fastest and "
@@ -35,8 +32,17 @@ int main(int argc, char* argv[]) {
   parser.addPositionalArgument("TICKS", "Ticks to run (default 400).", "[TICKS]");
   parser.addPositionalArgument("SEED", "Seed of the run's clock (default 1).", "[SEED]");
   parser.addPositionalArgument("charts", "Picture the charts window too.", "[charts]");
-  parser.process(app);
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+  keldor::AnswerHelpOrVersion(argc, argv, "keldor-screenshot", DescribeCommandLine);
+  QApplication app(argc, argv);
   QApplication::setApplicationName(keldor::ApplicationTitle);
+  QCommandLineParser parser;
+  DescribeCommandLine(parser);
+  parser.process(app);
   const QStringList args = parser.positionalArguments();
   if (args.isEmpty() || args.size() > 4) parser.showHelp(2);
   const int ticks = args.size() > 1 ? args[1].toInt() : 400;
