@@ -10,6 +10,7 @@ packages=(
   libgtest-dev libgmock-dev libbenchmark-dev
   clang libclang-rt-dev
   xvfb xauth
+  dpkg-dev file help2man librsvg2-bin desktop-file-utils appstream lintian man-db
 )
 
 missing=()

@@ -237,11 +237,12 @@ namespace {
 // The file dialogs are Qt's own on every platform, so that they look and
 // behave the same everywhere (and tests can answer them).
 QString AskForWorldFile(QWidget* parent, const char* caption, QFileDialog::AcceptMode mode) {
-  QFileDialog dialog(parent, caption, QString(), "Keldor worlds (*.json);;All files (*)");
+  QFileDialog dialog(parent, caption, QString(), "Keldor worlds (*.keldor.json *.json);;All files (*)");
   dialog.setOption(QFileDialog::DontUseNativeDialog);
   dialog.setAcceptMode(mode);
   dialog.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
-  dialog.setDefaultSuffix("json");
+  // The ending the desktop's file type for world files recognises.
+  dialog.setDefaultSuffix("keldor.json");
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
   return dialog.selectedFiles().first();
 }

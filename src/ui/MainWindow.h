@@ -71,6 +71,9 @@ class MainWindow : public QMainWindow {
   // Qt's file dialog unless replaced.
   using WorldFileChooser = std::function<QString(QWidget* parent, const char* caption, QFileDialog::AcceptMode mode)>;
   void SetWorldFileChooser(WorldFileChooser choose) { chooseWorldFile_ = std::move(choose); }
+  // Continues from the world state file at path, as Open World does once a
+  // file is chosen; a file that cannot be read shows its fault instead.
+  void OpenWorldFile(const QString& path);
 
   // Run control, status line, charts and inspector.
   RunSpeed Speed() const { return speed_; }
@@ -78,9 +81,6 @@ class MainWindow : public QMainWindow {
   int TimerInterval() const { return timer_.interval(); }
   // Ticks the world has run since New, counted on from a loaded world's tick.
   int64_t WorldTicks() const { return simulation_.Ticks(); }
-  // Opens a world file, as File > Open World does after its dialog; a bad
-  // file is reported in a message box and the current world stays.
-  void OpenWorldFile(const QString& path);
   // New, with the random source's clock started from the seed as keldor-headless --seed starts it.
   void NewWithSeed(uint64_t seed);
   // One tick of a paused world.
