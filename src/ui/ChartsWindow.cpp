@@ -3,6 +3,7 @@
 #include <QChart>
 #include <QChartView>
 #include <QFile>
+#include <QGraphicsLayout>
 #include <QFileDialog>
 #include <QHBoxLayout>
 #include <QLineSeries>
@@ -27,6 +28,9 @@ namespace {
 // Food stored, carried and on the map.
 const QColor FoodColours[] = {QColor(160, 90, 20), QColor(40, 110, 200), QColor(16, 152, 16)};
 
+// The charts' own margin around their contents.
+const QMargins ChartMargins(8, 8, 8, 8);
+
 // Labelled ticks on an axis at most; fewer when the steps round up.
 constexpr int AxisTickCount = 5;
 // The exported picture has this many pixels for each screen pixel.
@@ -39,11 +43,13 @@ QLocale GroupingLocale() {
   return locale;
 }
 
-void ShowRoundTicks(QValueAxis* axis, double dataMax) {
+// A value axis ends on its first round tick above the data; the time axis
+// ends at the latest tick, so that the lines reach the right-hand side.
+void ShowRoundTicks(QValueAxis* axis, double dataMax, bool endOnTick = true) {
   const AxisTicks ticks = RoundTicks(dataMax, AxisTickCount);
   axis->setTickAnchor(0);
   axis->setTickInterval(ticks.Interval);
-  axis->setRange(0, ticks.Max);
+  axis->setRange(0, endOnTick ? ticks.Max : std::max(dataMax, 1.0));
 }
 
 QValueAxis* NewAxis(const QString& title) {
@@ -51,6 +57,7 @@ QValueAxis* NewAxis(const QString& title) {
   axis->setTitleText(title);
   axis->setTickType(QValueAxis::TicksDynamic);
   axis->setLabelFormat("%.0f");
+  axis->setTruncateLabels(false);
   return axis;
 }
 
@@ -73,13 +80,14 @@ ChartsWindow::ChartsWindow(const RunChart& chart, QWidget* parent) : QWidget(par
   setWindowTitle("Keldor Charts");
   auto* layout = new QVBoxLayout(this);
   plots_ = new QWidget(this);
+  plots_->setObjectName("plots");
   auto* plotLayout = new QVBoxLayout(plots_);
   plotLayout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(plots_, 1);
-  population_ = AddPlot(plots_, "Population", "Living ants");
-  food_ = AddPlot(plots_, "Food", "Stored and carried (food units)");
+  population_ = AddPlot(plots_, "Population", "Ants");
+  food_ = AddPlot(plots_, "Food: stored and carried, on the map", "Food units");
   // The food on the map outweighs the rest by far: it has the right-hand scale.
-  food_.RightY = NewAxis("On the map (food units)");
+  food_.RightY = NewAxis("On the map");
   food_.Chart->addAxis(food_.RightY, Qt::AlignRight);
   for (size_t i = 0; i < 3; ++i) {
     const QString name = QString::fromUtf8(RunChart::TotalName(RunChart::AllTotals[i]).data());
@@ -88,7 +96,7 @@ ChartsWindow::ChartsWindow(const RunChart& chart, QWidget* parent) : QWidget(par
   food_.RightY->setLinePenColor(FoodColours[2]);
   food_.RightY->setLabelsColor(FoodColours[2]);
   food_.RightY->setTitleBrush(FoodColours[2]);
-  scent_ = AddPlot(plots_, "Scented cells", "Cells with scent");
+  scent_ = AddPlot(plots_, "Scented cells", "Cells");
   AddLine(scent_, "Scented cells")->setColor(Qt::darkGray);
   scent_.Chart->legend()->hide();
 
@@ -103,7 +111,7 @@ ChartsWindow::ChartsWindow(const RunChart& chart, QWidget* parent) : QWidget(par
   buttons->addWidget(csv);
   buttons->addWidget(png);
   layout->addLayout(buttons);
-  resize(560, 640);
+  resize(640, 760);
 }
 
 ChartsWindow::Plot ChartsWindow::AddPlot(QWidget* area, const QString& title, const QString& yTitle) {
@@ -114,36 +122,43 @@ ChartsWindow::Plot ChartsWindow::AddPlot(QWidget* area, const QString& title, co
   plot.Chart->setLocalizeNumbers(true);
   plot.Chart->setLocale(GroupingLocale());
   plot.Chart->legend()->setAlignment(Qt::AlignBottom);
-  plot.X = NewAxis("Ticks run");
+  plot.X = NewAxis("Tick");
   plot.Y = NewAxis(yTitle);
   plot.Chart->addAxis(plot.X, Qt::AlignBottom);
   plot.Chart->addAxis(plot.Y, Qt::AlignLeft);
   auto* view = new QChartView(plot.Chart, area);
   view->setRenderHint(QPainter::Antialiasing, false);
+  view->setMinimumHeight(view->fontMetrics().height() * 12);  // room for a plot between title, labels and legend
   view->installEventFilter(this);
   area->layout()->addWidget(view);
-  plot.View = view;
   return plot;
 }
 
 bool ChartsWindow::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::Resize) {
-    for (const Plot* plot : {&population_, &food_, &scent_}) {
-      if (plot->View == watched) AlignPlotArea(*plot, static_cast<QResizeEvent*>(event)->size());
-    }
-  }
+  if (event->type() == QEvent::Resize) QMetaObject::invokeMethod(this, &ChartsWindow::AlignXAxes, Qt::QueuedConnection);
   return QWidget::eventFilter(watched, event);
 }
 
-void ChartsWindow::AlignPlotArea(const Plot& plot, QSize size) {
-  // The same margins on every chart, wide enough for a label of nine digits
-  // and an axis title on either side: the three x axes line up.
-  const QFontMetrics metrics(plot.Chart->font());
-  const int side = metrics.horizontalAdvance("000,000,000") + 2 * metrics.height() + 12;
-  const int top = 2 * metrics.height() + 8;
-  const int bottom = 4 * metrics.height() + 16;  // tick labels, axis title, legend
-  const QRectF area(side, top, size.width() - 2 * side, size.height() - top - bottom);
-  plot.Chart->setPlotArea(area.isValid() ? area : QRectF());
+void ChartsWindow::AlignXAxes() {
+  // Each chart lays out its own labels, titles and legend; the charts with
+  // narrower ones get the difference as an extra margin, so that the three
+  // plot areas start and end at the same x.
+  const Plot* plots[] = {&population_, &food_, &scent_};
+  double left = 0;
+  double right = 0;
+  for (const Plot* plot : plots) {
+    plot->Chart->setMargins(ChartMargins);
+    plot->Chart->layout()->activate();
+    left = std::max(left, plot->Chart->plotArea().left());
+    right = std::max(right, plot->Chart->size().width() - plot->Chart->plotArea().right());
+  }
+  for (const Plot* plot : plots) {
+    const QRectF area = plot->Chart->plotArea();
+    const QMargins extra(static_cast<int>(left - area.left()), 0,
+                         static_cast<int>(right - (plot->Chart->size().width() - area.right())), 0);
+    plot->Chart->setMargins(ChartMargins + extra);
+    plot->Chart->layout()->activate();
+  }
 }
 
 QLineSeries* ChartsWindow::AddLine(Plot& plot, const QString& name, QValueAxis* y) {
@@ -191,9 +206,10 @@ void ChartsWindow::Refresh() {
   Show(scent_.Lines[0], chart_.TotalSeries(RunChart::Total::ScentedCells), xMax, scentMax);
   const std::pair<Plot*, double> ranges[] = {{&population_, populationMax}, {&food_, foodMax}, {&scent_, scentMax}};
   for (const auto& [plot, yMax] : ranges) {
-    ShowRoundTicks(plot->X, xMax);
+    ShowRoundTicks(plot->X, xMax, false);
     ShowRoundTicks(plot->Y, yMax);
   }
+  AlignXAxes();
 }
 
 std::vector<int> ChartsWindow::PointCounts() const {

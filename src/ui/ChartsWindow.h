@@ -42,11 +42,10 @@ class ChartsWindow : public QWidget {
     QValueAxis* Y = nullptr;
     QValueAxis* RightY = nullptr;  // for a line on another scale
     std::vector<QLineSeries*> Lines;
-    QWidget* View = nullptr;
   };
   Plot AddPlot(QWidget* area, const QString& title, const QString& yTitle);
-  // Gives the plot the margins all plots share, for a view of `size`.
-  static void AlignPlotArea(const Plot& plot, QSize size);
+  // Widens the margins of the charts so that their plot areas line up.
+  void AlignXAxes();
   QLineSeries* AddLine(Plot& plot, const QString& name, QValueAxis* y = nullptr);
   // Replaces the line's points by the series' and widens the plot's ranges to hold them.
   void Show(QLineSeries* line, const ChartSeries& series, double& xMax, double& yMax);

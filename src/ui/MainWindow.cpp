@@ -72,14 +72,16 @@ MainWindow::MainWindow(MessageBox& messages, Clock& clock, QWidget* parent)
   BuildButtonBar(central);
   BuildPalette(central);
   BuildInfoPanel(central);
+  BuildGuide();
 
   StartUp(world_, window_);
   timer_.setInterval(TickIntervalMs);
   connect(&timer_, &QTimer::timeout, this, &MainWindow::TimerFired);
   steady_.start();
-  resize(scale_.Pixels(InitialWidth - ClassicFrameWidth),
-         scale_.Pixels(InitialHeight - ClassicFrameHeight) + menuBar()->sizeHint().height() +
-             statusBar()->sizeHint().height());
+  resize(QSize(scale_.Pixels(InitialWidth - ClassicFrameWidth),
+               scale_.Pixels(InitialHeight - ClassicFrameHeight) + menuBar()->sizeHint().height() +
+                   statusBar()->sizeHint().height())
+             .boundedTo(LargestSize()));
   layout()->activate();  // sizes the client area before the first show
   DoResize();
 }
@@ -346,7 +348,9 @@ void MainWindow::DoResize() {
   if (layout_.Width > width || layout_.Height > height) {
     const int growX = static_cast<int>(std::ceil((layout_.Width - width) / scale_.TwipsPerPixel()));
     const int growY = static_cast<int>(std::ceil((layout_.Height - height) / scale_.TwipsPerPixel()));
-    resize(this->width() + growX, this->height() + growY);
+    // Never beyond the screen: on a small one the view gives up its last pixels.
+    const QSize grown = QSize(this->width() + growX, this->height() + growY).boundedTo(LargestSize());
+    if (grown != size()) resize(grown);
   }
   ApplyLayout();
   ShowControls();
