@@ -10,6 +10,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QResizeEvent>
+#include <QScrollArea>
 #include <QPixmap>
 #include <QLocale>
 #include <QValueAxis>
@@ -18,6 +19,7 @@
 #include <sstream>
 
 #include "platform/QtColour.h"
+#include "ui/ScreenFit.h"
 #include "window/ChartTicks.h"
 #include "window/RunChart.h"
 
@@ -79,11 +81,16 @@ ChartsWindow::ChartsWindow(const RunChart& chart, QWidget* parent) : QWidget(par
   setObjectName("frmCharts");
   setWindowTitle("Keldor Charts");
   auto* layout = new QVBoxLayout(this);
-  plots_ = new QWidget(this);
+  // On a small screen the charts keep a readable height and scroll.
+  auto* scroll = new QScrollArea(this);
+  scroll->setWidgetResizable(true);
+  scroll->setFrameShape(QFrame::NoFrame);
+  plots_ = new QWidget(scroll);
   plots_->setObjectName("plots");
   auto* plotLayout = new QVBoxLayout(plots_);
   plotLayout->setContentsMargins(0, 0, 0, 0);
-  layout->addWidget(plots_, 1);
+  scroll->setWidget(plots_);
+  layout->addWidget(scroll, 1);
   population_ = AddPlot(plots_, "Population", "Ants");
   food_ = AddPlot(plots_, "Food: stored and carried, on the map", "Food units");
   // The food on the map outweighs the rest by far: it has the right-hand scale.
@@ -111,7 +118,7 @@ ChartsWindow::ChartsWindow(const RunChart& chart, QWidget* parent) : QWidget(par
   buttons->addWidget(csv);
   buttons->addWidget(png);
   layout->addLayout(buttons);
-  resize(640, 760);
+  resize(QSize(640, 760).boundedTo(AvailableSize(*this)));
 }
 
 ChartsWindow::Plot ChartsWindow::AddPlot(QWidget* area, const QString& title, const QString& yTitle) {
@@ -128,7 +135,7 @@ ChartsWindow::Plot ChartsWindow::AddPlot(QWidget* area, const QString& title, co
   plot.Chart->addAxis(plot.Y, Qt::AlignLeft);
   auto* view = new QChartView(plot.Chart, area);
   view->setRenderHint(QPainter::Antialiasing, false);
-  view->setMinimumHeight(view->fontMetrics().height() * 12);  // room for a plot between title, labels and legend
+  view->setMinimumHeight(view->fontMetrics().height() * 13);  // room for a plot between title, labels and legend
   view->installEventFilter(this);
   area->layout()->addWidget(view);
   return plot;

@@ -7,6 +7,8 @@
 #include <QUrl>
 #include <iterator>
 
+#include "ui/ScreenFit.h"
+
 namespace keldor {
 
 namespace {
@@ -23,7 +25,7 @@ constexpr HelpPage Pages[] = {
     {"Tools", "tools.html"},
     {"Running and stepping", "run.html"},
     {"Charts and Inspector", "charts.html"},
-    {"Worlds: New with Seed, Save, Open", "worlds.html"},
+    {"New with Seed, Save, Open", "worlds.html"},
     {"Options", "options.html"},
     {"Batch runs and sweeps", "batch.html"},
 };
@@ -54,8 +56,8 @@ HelpWindow::HelpWindow(QWidget* parent) : QWidget(parent, Qt::Window) {
   });
   connect(pages_, &QListWidget::currentRowChanged, this, [this](int row) { ShowPage(row); });
   const int wide = fontMetrics().horizontalAdvance('x');
-  pages_->setMaximumWidth(34 * wide);
-  resize(110 * wide, 48 * fontMetrics().height());
+  pages_->setMaximumWidth(30 * wide);
+  resize(QSize(125 * wide, 48 * fontMetrics().height()).boundedTo(AvailableSize(*this)));
   ShowPage(0);
 }
 

@@ -28,6 +28,7 @@
 #include "ui/PictureBox.h"
 #include "ui/AboutBox.h"
 #include "ui/OptionsDialog.h"
+#include "ui/ScreenFit.h"
 
 namespace keldor {
 
@@ -81,7 +82,7 @@ MainWindow::MainWindow(MessageBox& messages, Clock& clock, QWidget* parent)
   resize(QSize(scale_.Pixels(InitialWidth - ClassicFrameWidth),
                scale_.Pixels(InitialHeight - ClassicFrameHeight) + menuBar()->sizeHint().height() +
                    statusBar()->sizeHint().height())
-             .boundedTo(LargestSize()));
+             .boundedTo(AvailableSize(*this)));
   layout()->activate();  // sizes the client area before the first show
   DoResize();
 }
@@ -349,7 +350,7 @@ void MainWindow::DoResize() {
     const int growX = static_cast<int>(std::ceil((layout_.Width - width) / scale_.TwipsPerPixel()));
     const int growY = static_cast<int>(std::ceil((layout_.Height - height) / scale_.TwipsPerPixel()));
     // Never beyond the screen: on a small one the view gives up its last pixels.
-    const QSize grown = QSize(this->width() + growX, this->height() + growY).boundedTo(LargestSize());
+    const QSize grown = QSize(this->width() + growX, this->height() + growY).boundedTo(AvailableSize(*this));
     if (grown != size()) resize(grown);
   }
   ApplyLayout();

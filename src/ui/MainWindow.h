@@ -104,8 +104,6 @@ class MainWindow : public QMainWindow {
   void BuildGuide();
   // Keeps the picked ant in view while the inspector's Follow is ticked.
   void FollowPick();
-  // The screen's available area less the window's frame.
-  QSize LargestSize() const;
   QPushButton* AddBarButton(QWidget* bar, const char* name, double left, const char* toolTip);
 
   // Runs a command on the world, then shows the controls.

@@ -1,11 +1,9 @@
 // The main window's help and navigation: Help > Keldor Help (F1), the
 // shortcuts of New, Open World and Save World As, the wheel and arrow keys
-// over the terrain view, following the picked ant, and a first size that
-// fits the screen.
+// over the terrain view, and following the picked ant.
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
-#include <QScreen>
 #include <algorithm>
 #include <cstdlib>
 
@@ -55,15 +53,6 @@ HelpWindow* MainWindow::Help() {
 void MainWindow::FollowPick() {
   if (!pickWindow_ || !pickWindow_->isVisible() || !pickWindow_->Following()) return;
   if (const Ant* ant = LivingAnt(world_, pick_)) KeepInView(window_, ant->HeadX, ant->HeadY);
-}
-
-QSize MainWindow::LargestSize() const {
-  const QScreen* shown = screen();
-  if (shown == nullptr) return QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
-  // The window's frame lies outside its size; before the first show it is not
-  // known, and a title bar's worth is kept free.
-  const QSize frame = isVisible() ? frameGeometry().size() - size() : QSize(0, fontMetrics().height() * 2);
-  return shown->availableGeometry().size() - frame;
 }
 
 }  // namespace keldor

@@ -11,6 +11,7 @@
 #include <QPainter>
 #include <QPushButton>
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
 
 #include "model/Random.h"
@@ -147,10 +148,24 @@ int main(int argc, char* argv[]) {
   QApplication::processEvents();
   saved = Save(charts->grab().toImage(), docs.filePath("charts-two-colonies.png")) && saved;
 
-  // Up close at the first nest.
+  // Up close between the first nest and the food pile nearest to it.
   for (int i = 0; i < 3; ++i) Click(window, "cmdZoomIn");
-  const keldor::Nest& nest = window.TheWorld().Nests[0];
-  keldor::NavigateFromMap(window.Window(), nest.X, nest.Y);
+  const keldor::World& world = window.TheWorld();
+  const keldor::Nest& nest = world.Nests[0];
+  double x = nest.X;
+  double y = nest.Y;
+  double nearest = 1e300;
+  for (const keldor::FoodPile& pile : world.FoodPiles) {
+    const double px = (pile.X - 0.5) * world.Settings.CellSize;
+    const double py = (pile.Y - 0.5) * world.Settings.CellSize;
+    const double distance = std::hypot(px - nest.X, py - nest.Y);
+    if (distance < nearest) {
+      nearest = distance;
+      x = (px + nest.X) / 2;
+      y = (py + nest.Y) / 2;
+    }
+  }
+  keldor::NavigateFromMap(window.Window(), x, y);
   RunTicks(window, clock, 1);
   const QImage view = terrain->grab().toImage();
   const QSize part = QSize(520, 360) * view.devicePixelRatio();
