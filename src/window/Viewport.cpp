@@ -144,17 +144,13 @@ void ScrollBySteps(WindowState& window, int columns, int rows) {
   SetVerticalScroll(window, window.VScroll1.Value + rows * window.VScroll1.SmallChange);
 }
 
-bool KeepInView(WindowState& window, double x, double y) {
+void KeepInView(WindowState& window, double x, double y) {
   const ViewScale& t = window.View.Terrain;
   const double tx = x * window.View.ZoomX;
   const double ty = y * window.View.ZoomY;
   const bool inside = tx >= t.Left + t.Width / 10 && tx <= t.Left + t.Width * 9 / 10 &&
                       ty >= t.Top + t.Height / 10 && ty <= t.Top + t.Height * 9 / 10;
-  if (inside) return false;
-  const int16_t h = window.HScroll1.Value;
-  const int16_t v = window.VScroll1.Value;
-  NavigateFromMap(window, x, y);
-  return window.HScroll1.Value != h || window.VScroll1.Value != v;
+  if (!inside) NavigateFromMap(window, x, y);
 }
 
 }  // namespace keldor

@@ -43,7 +43,7 @@ void ScrollBySteps(WindowState& window, int columns, int rows);
 
 // Following an ant: when world point (x, y) lies outside the middle of the
 // terrain view (a tenth of the view from any edge), centre the view on it as
-// the mini-map does. True when the view moved.
-bool KeepInView(WindowState& window, double x, double y);
+// the mini-map does.
+void KeepInView(WindowState& window, double x, double y);
 
 }  // namespace keldor

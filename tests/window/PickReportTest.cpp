@@ -14,6 +14,10 @@ struct PickReportTest : ::testing::Test {
     // Worker 1 lies from (10, 10) to (14, 10); the last worker from (30, 30) to (30, 34).
     Place(1, 10, 10, 14, 10);
     Place(last, 30, 30, 30, 34);
+    // A unit of 40: full is 200, and the upkeep takes 0.4 a tick.
+    nest.AntUnit = 40;
+    nest.Radius = 1;
+    nest.X = nest.Y = 1000;
   }
   void Place(int i, double rx, double ry, double hx, double hy) {
     Ant& a = world.Nests[0].Ants[i];
@@ -53,10 +57,6 @@ TEST_F(PickReportTest, AnAntIsFollowedAcrossRenumberingUntilItDies) {
   const Pick pick = PickAt(world, 30, 32, 1);
   ASSERT_EQ(pick.What, Pick::Kind::Ant);
   nest.Ants.Remove(1);  // the picked ant, the last, moves into slot 1
-  // A unit of 40: full is 200, and the upkeep takes 0.4 a tick.
-  nest.AntUnit = 40;
-  nest.Radius = 1;
-  nest.X = nest.Y = 1000;
   const PickReport seen = ReportPick(world, pick);
   EXPECT_EQ(seen.Title, "Ant");
   const std::vector<std::pair<std::string, std::string>> expected = {
@@ -66,33 +66,18 @@ TEST_F(PickReportTest, AnAntIsFollowedAcrossRenumberingUntilItDies) {
       {"Cell", "(1, 1)"},     {"Heading", "south"}};           // rear (30, 30), head (30, 34)
   EXPECT_EQ(seen.Lines, expected);
   ASSERT_NE(LivingAnt(world, pick), nullptr);
+  Ant& ant = *const_cast<Ant*>(LivingAnt(world, pick));
+  ant.Load = 0;
+  EXPECT_EQ(ReportPick(world, pick).Lines[1].second, "searching for food");
+  nest.X = 30;  // the head (30, 34) lies inside the disc
+  nest.Y = 34;
+  EXPECT_EQ(ReportPick(world, pick).Lines[1].second, "at the nest");
+  ant.Energy = 1.0;
+  EXPECT_EQ(ReportPick(world, pick).Lines[4].second, "about 3 ticks without eating");  // 1 / 0.4 = 2.5
   const_cast<Ant*>(LivingAnt(world, pick))->Energy = 0;
   EXPECT_EQ(LivingAnt(world, pick), nullptr);
   EXPECT_EQ(ReportPick(world, pick).Title, "Ant (dead)");
   EXPECT_EQ(ReportPick(world, pick).Lines[1].second, "dead");
-}
-
-TEST_F(PickReportTest, AnAntsStateFollowsItsLoadAndTheNestDisc) {
-  Nest& nest = world.Nests[0];
-  nest.AntUnit = 40;
-  nest.Radius = 1;
-  nest.X = nest.Y = 1000;
-  const Pick pick = PickAt(world, 30, 32, 1);
-  Ant& ant = *const_cast<Ant*>(LivingAnt(world, pick));
-  ant.Load = 0;
-  EXPECT_EQ(ReportPick(world, pick).Lines[1].second, "searching for food");
-  EXPECT_EQ(ReportPick(world, pick).Lines[2].second, "nothing");
-  nest.X = 30;  // the head (30, 34) lies inside the disc
-  nest.Y = 34;
-  ant.Load = 3;
-  EXPECT_EQ(ReportPick(world, pick).Lines[1].second, "at the nest");
-  ant.LifeFactor = 1.0;  // exempt from the upkeep while its energy is above 1
-  EXPECT_EQ(ReportPick(world, pick).Lines[4].second, "does not tire");
-  ant.Energy = 1.0;
-  EXPECT_EQ(ReportPick(world, pick).Lines[4].second, "about 3 ticks without eating");  // 1 / 0.4 = 2.5
-  ant.HeadX = 26;  // rear (30, 30): pointing up and left
-  ant.HeadY = 26;
-  EXPECT_EQ(ReportPick(world, pick).Lines[6].second, "north-west");
 }
 
 TEST_F(PickReportTest, NestAndCellLines) {
