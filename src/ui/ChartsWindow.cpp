@@ -3,16 +3,15 @@
 #include <QChart>
 #include <QChartView>
 #include <QFile>
-#include <QGraphicsLayout>
 #include <QFileDialog>
+#include <QGraphicsLayout>
 #include <QHBoxLayout>
 #include <QLineSeries>
-#include <QMessageBox>
-#include <QPushButton>
-#include <QResizeEvent>
-#include <QScrollArea>
-#include <QPixmap>
 #include <QLocale>
+#include <QMessageBox>
+#include <QPixmap>
+#include <QPushButton>
+#include <QScrollArea>
 #include <QValueAxis>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -135,7 +134,7 @@ ChartsWindow::Plot ChartsWindow::AddPlot(QWidget* area, const QString& title, co
   plot.Chart->addAxis(plot.Y, Qt::AlignLeft);
   auto* view = new QChartView(plot.Chart, area);
   view->setRenderHint(QPainter::Antialiasing, false);
-  view->setMinimumHeight(view->fontMetrics().height() * 13);  // room for a plot between title, labels and legend
+  view->setMinimumHeight(view->fontMetrics().height() * 15);  // room for a plot between title, labels and legend
   view->installEventFilter(this);
   area->layout()->addWidget(view);
   return plot;

@@ -1,6 +1,5 @@
 #include "ui/OptionsDialog.h"
 
-
 #include <QFrame>
 #include <QGridLayout>
 #include <QGroupBox>
