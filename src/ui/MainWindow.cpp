@@ -29,6 +29,7 @@
 #include "ui/PictureBox.h"
 #include "ui/AboutBox.h"
 #include "ui/OptionsDialog.h"
+#include "ui/ScreenFit.h"
 
 namespace keldor {
 
@@ -73,14 +74,16 @@ MainWindow::MainWindow(MessageBox& messages, Clock* timeOfDay, QWidget* parent)
   BuildButtonBar(central);
   BuildPalette(central);
   BuildInfoPanel(central);
+  BuildGuide();
 
   StartUp(world_, window_);
   timer_.setInterval(TickPeriodMs);
   connect(&timer_, &QTimer::timeout, this, &MainWindow::TimerFired);
   steady_.start();
-  resize(scale_.Pixels(InitialWidth - ClassicFrameWidth),
-         scale_.Pixels(InitialHeight - ClassicFrameHeight) + menuBar()->sizeHint().height() +
-             statusBar()->sizeHint().height());
+  resize(QSize(scale_.Pixels(InitialWidth - ClassicFrameWidth),
+               scale_.Pixels(InitialHeight - ClassicFrameHeight) + menuBar()->sizeHint().height() +
+                   statusBar()->sizeHint().height())
+             .boundedTo(AvailableSize(*this)));
   layout()->activate();  // sizes the client area before the first show
   DoResize();
 }
@@ -353,7 +356,9 @@ void MainWindow::DoResize() {
   if (layout_.Width > width || layout_.Height > height) {
     const int growX = static_cast<int>(std::ceil((layout_.Width - width) / scale_.TwipsPerPixel()));
     const int growY = static_cast<int>(std::ceil((layout_.Height - height) / scale_.TwipsPerPixel()));
-    resize(this->width() + growX, this->height() + growY);
+    // Never beyond the screen: on a small one the view gives up its last pixels.
+    const QSize grown = QSize(this->width() + growX, this->height() + growY).boundedTo(AvailableSize(*this));
+    if (grown != size()) resize(grown);
   }
   ApplyLayout();
   ShowControls();

@@ -48,6 +48,7 @@ class ProgramStarter;
 class OptionsDialog;
 class ChartsWindow;
 class PickWindow;
+class HelpWindow;
 
 class MainWindow : public QMainWindow {
   Q_OBJECT
@@ -87,6 +88,7 @@ class MainWindow : public QMainWindow {
   void Step();
   ChartsWindow* Charts();
   PickWindow* PickView();
+  HelpWindow* Help();
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
@@ -98,6 +100,10 @@ class MainWindow : public QMainWindow {
   void BuildPalette(QWidget* central);
   void BuildTerrain(QWidget* central);
   void BuildInfoPanel(QWidget* central);
+  // Help > Keldor Help, the file shortcuts, and the wheel and arrow keys.
+  void BuildGuide();
+  // Keeps the picked ant in view while the inspector's Follow is ticked.
+  void FollowPick();
   QPushButton* AddBarButton(QWidget* bar, const char* name, double left, const char* toolTip);
 
   // Runs a command on the world, then shows the controls.
@@ -166,6 +172,7 @@ class MainWindow : public QMainWindow {
   Pick pick_;
   QPointer<ChartsWindow> charts_;
   QPointer<PickWindow> pickWindow_;
+  QPointer<HelpWindow> help_;
   std::array<QAction*, std::size(AllRunSpeeds)> mnuSpeed_{};
   QLabel* lblStatus_ = nullptr;
 
