@@ -20,25 +20,6 @@ void Write(const QString& path, const QByteArray& text) {
   file.write(text);
 }
 
-TEST(SnapshotRunTest, LoadingTickTwoHundredAndRunningOnEqualsTheStraightRun) {
-  const QStringList worlds[] = {
-      {"--seed", "1"},
-      {"--seed", "2", "--grid", "12", "--ants-per-nest", "120", "--nest", "4,4", "--nest", "8,8", "--nest", "4,8"},
-      {"--seed", "3", "--grid", "20", "--food-rate", "10", "--wall", "9,9", "--wall", "10,9", "--food", "14,14"},
-      {"--seed", "4", "--grid", "1", "--food-rate", "100"},
-      {"--seed", "7", "--food-trace", "500", "--grid", "12", "--ants-per-nest", "80", "--nest", "3,3"}};
-  for (const QStringList& world : worlds) {
-    QTemporaryDir dir;
-    const QString straight = dir.filePath("300.json"), saved = dir.filePath("200.json");
-    ASSERT_EQ(InProcessRun(world + QStringList{"--ticks", "300", "--json", straight}).status, ExitOk);
-    ASSERT_EQ(InProcessRun(world + QStringList{"--ticks", "200", "--json", saved}).status, ExitOk);
-    // The loaded file may be the one the run replaces.
-    const InProcessRun resumed({"--load", saved, "--ticks", "100", "--json", saved});
-    ASSERT_EQ(resumed.status, ExitOk) << resumed.err.str();
-    EXPECT_EQ(ReadAll(saved), ReadAll(straight)) << world.join(' ').toStdString();
-  }
-}
-
 TEST(SnapshotRunTest, DamagedFilesAndWorldOptionsAreRefusedNamingTheField) {
   QTemporaryDir dir;
   const QString good = dir.filePath("good.json"), bad = dir.filePath("bad.json"), out = dir.filePath("out.json");
