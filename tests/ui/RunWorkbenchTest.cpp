@@ -167,8 +167,8 @@ class RunWorkbenchTest : public QObject {
     QCOMPARE(ticks, 120);
     QTemporaryDir dir;
     std::ostringstream out, err;
-    QCOMPARE(headless::RunHeadless({"keldor-headless", "--seed", "42", "--ticks", QString::number(ticks), "--json",
-                                    dir.filePath("run.json"), "--csv", dir.filePath("run.csv")},
+    QCOMPARE(headless::RunHeadless({"keldor-headless", "--seed", "42", "--ticks", std::to_string(ticks), "--json",
+                                    dir.filePath("run.json").toStdString(), "--csv", dir.filePath("run.csv").toStdString()},
                                    out, err),
              0);
     QFile json(dir.filePath("run.json"));

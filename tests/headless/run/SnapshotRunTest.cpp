@@ -95,6 +95,13 @@ TEST(SnapshotRunTest, DamagedFilesAndWorldOptionsAreRefusedNamingTheField) {
     EXPECT_EQ(run.status, ExitBadArguments) << named;
     EXPECT_NE(run.err.str().find(named), std::string::npos) << run.err.str();
   }
+  // A world saved paused stays paused unless --play presses Play.
+  const QString paused = dir.filePath("paused.json"), resumed = dir.filePath("resumed.json");
+  ASSERT_EQ(InProcessRun({"--seed", "9", "--grid", "6", "--paused", "--ticks", "1", "--json", paused}).status, ExitOk);
+  for (const bool play : {false, true}) {
+    ASSERT_EQ(InProcessRun(QStringList{"--load", paused, "--json", resumed} + QStringList(play ? 1 : 0, "--play")).status, ExitOk);
+    EXPECT_EQ(QJsonDocument::fromJson(ReadAll(resumed)).object()["Running"].toBool(), play);
+  }
   const InProcessRun grid({"--load", good, "--grid", "10"});
   EXPECT_EQ(grid.status, ExitBadArguments);
   EXPECT_NE(grid.err.str().find("--grid: not with --load"), std::string::npos) << grid.err.str();
