@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Builds Keldor and runs every test twice: an optimised build, then a build
-# with AddressSanitizer and UndefinedBehaviorSanitizer; then runs the fuzz
+# Builds Keldor and runs every test twice: an optimised build (and the golden
+# runs in the WebAssembly engine), then a build with AddressSanitizer and
+# UndefinedBehaviorSanitizer; then runs the fuzz
 # targets, built with clang, for under a minute in all. Installs what it needs.
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -13,6 +14,9 @@ echo "== optimised build =="
 cmake -S . -B build -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo >/dev/null
 cmake --build build -j"$jobs"
 ctest --test-dir build --output-on-failure -j"$jobs"
+
+echo "== WebAssembly engine: the golden runs under node =="
+bash web/batch/check-golden.sh
 
 echo "== sanitizer build (ASan + UBSan) =="
 cmake -S . -B build-asan -G Ninja -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG="-g -O1" \
