@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Builds Keldor and runs every test twice: an optimised build (whose Debian
-# package is then made and checked), then a build with AddressSanitizer and
+# package is then made and checked, and the golden runs in the WebAssembly
+# engine), then a build with AddressSanitizer and
 # UndefinedBehaviorSanitizer; then runs the fuzz
 # targets, built with clang, for under a minute in all. Installs what it needs.
 set -euo pipefail
@@ -18,6 +19,9 @@ ctest --test-dir build --output-on-failure -j"$jobs"
 echo "== Debian package =="
 deb=$(bash scripts/package.sh | tail -n 1)
 bash scripts/check-package.sh "$deb" build
+
+echo "== WebAssembly engine: the golden runs under node =="
+bash web/batch/check-golden.sh
 
 echo "== sanitizer build (ASan + UBSan) =="
 cmake -S . -B build-asan -G Ninja -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG="-g -O1" \

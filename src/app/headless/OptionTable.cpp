@@ -1,8 +1,13 @@
 #include "app/headless/OptionTable.h"
 
+#include <cctype>
+#include <cerrno>
 #include <charconv>
 #include <cmath>
+#include <cstdlib>
 #include <limits>
+#include <string>
+#include <type_traits>
 
 namespace keldor::headless {
 
@@ -18,14 +23,39 @@ std::string_view Trimmed(std::string_view text) {
   return text.substr(first, text.find_last_not_of(" \t") - first + 1);
 }
 
+#ifndef __cpp_lib_to_chars
+// Emscripten's libc++ has no floating-point from_chars. strtod, in the "C"
+// locale, reads the same texts once its extras are refused (leading blanks, a
+// second sign, hexadecimal); both round correctly.
+std::optional<double> ParseDouble(std::string_view text) {
+  if (text.empty() || text[0] == '+' || std::isspace(static_cast<unsigned char>(text[0])) ||
+      text.find_first_of("xX") != std::string_view::npos) {
+    return std::nullopt;
+  }
+  const std::string whole(text);
+  char* end = nullptr;
+  errno = 0;
+  const double value = std::strtod(whole.c_str(), &end);
+  if (errno == ERANGE || end != whole.c_str() + whole.size()) return std::nullopt;
+  return value;
+}
+#endif
+
 // The whole text as a number of type T, an optional "+" first.
 template <class T>
 std::optional<T> ParseNumber(std::string_view text) {
   if (text.size() > 1 && text[0] == '+' && text[1] != '-') text.remove_prefix(1);
-  T value{};
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-  if (error != std::errc() || end != text.data() + text.size() || text.empty()) return std::nullopt;
-  return value;
+#ifndef __cpp_lib_to_chars
+  if constexpr (std::is_floating_point_v<T>) {
+    return ParseDouble(text);
+  } else
+#endif
+  {
+    T value{};
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (error != std::errc() || end != text.data() + text.size() || text.empty()) return std::nullopt;
+    return value;
+  }
 }
 
 ValueRead ReadWhole(const OptionSpec& spec, std::string_view text) {
