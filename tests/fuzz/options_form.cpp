@@ -6,6 +6,7 @@
 
 #include "window/Commands.h"
 #include "model/Numeric.h"
+#include "model/WorldCreation.h"
 #include "window/OptionsForm.h"
 #include "model/World.h"
 #include "window/WindowState.h"
@@ -41,6 +42,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   for (const int16_t component : {s.AntRed, s.AntGreen, s.AntBlue}) {
     if (component < 0 || component > 255) __builtin_trap();
   }
-  keldor::OptionsNewWorldInputs(world, window);
+  // New reads a grid size it can build from whatever the grid box holds.
+  const int grid = keldor::GridSizeFromText(form.GridDimXText());
+  if (grid < keldor::MinGridSize || grid > keldor::MaxGridSize) __builtin_trap();
   return 0;
 }
