@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Builds Keldor and runs every test twice: an optimised build, then a build
+# Builds Keldor and runs every test twice: an optimised build (with the
+# browser edition's tests in headless Chromium after it), then a build
 # with AddressSanitizer and UndefinedBehaviorSanitizer; then runs the fuzz
 # targets, built with clang, for under a minute in all. Installs what it needs.
 set -euo pipefail
@@ -13,6 +14,10 @@ echo "== optimised build =="
 cmake -S . -B build -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo >/dev/null
 cmake --build build -j"$jobs"
 ctest --test-dir build --output-on-failure -j"$jobs"
+
+echo "== browser edition (WebAssembly, headless Chromium) =="
+bash scripts/build-web.sh
+KELDOR_HEADLESS=$PWD/build/bin/keldor-headless node --test web/tests/
 
 echo "== sanitizer build (ASan + UBSan) =="
 cmake -S . -B build-asan -G Ninja -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG="-g -O1" \

@@ -1,0 +1,172 @@
+// The browser edition in a real browser: the page loads cleanly, a seeded
+// world equals the batch runner's, world files go both ways between the page
+// and keldor-headless, the food tool lays food on the cell clicked, and a
+// screenshot shows the world.
+"use strict";
+const assert = require("node:assert/strict");
+const { after, before, test } = require("node:test");
+const { execFileSync } = require("child_process");
+const fs = require("fs");
+const os = require("os");
+const path = require("path");
+const { openPage } = require("./PageDriver");
+const { decodePng, countColour } = require("./PngPixels");
+
+const Headless = process.env.KELDOR_HEADLESS || path.resolve(__dirname, "../../build/bin/keldor-headless");
+const Work = fs.mkdtempSync(path.join(os.tmpdir(), "keldor-web-test-"));
+// The fields a world file keeps for the window, not the world.
+const WindowFields = ["CurrentTool", "CursorCellX", "CursorCellY", "MouseButton", "MouseHeld", "MouseX", "MouseY",
+  "ShowAnts", "ShowOdor", "TimerEnabled", "ToolColour", "View", "ViewCentreX", "ViewCentreY", "ZoomX", "ZoomY"];
+
+let browser;
+before(async () => { browser = await openPage(); });
+after(async () => { await browser.close(); fs.rmSync(Work, { recursive: true, force: true }); });
+
+function headless(...args) {
+  execFileSync(Headless, args, { env: { ...process.env, QT_QPA_PLATFORM: "offscreen" }, stdio: "pipe" });
+}
+function readJson(file) { return JSON.parse(fs.readFileSync(file, "utf8")); }
+
+// The world and resume fields of a world file; Running is compared apart,
+// since Step leaves a world paused and the batch runner's plays.
+function worldPart(state) {
+  const part = { ...state };
+  for (const field of [...WindowFields, "Running"]) delete part[field];
+  return part;
+}
+
+async function newWithSeed(page, seed) {
+  await page.click("#btnNewSeed");
+  await page.fill("#txtSeed", String(seed));
+  await page.click("#btnSeedOk");
+}
+
+async function stepTicks(page, count) {
+  for (let i = 0; i < count; ++i) await page.click("#btnStep");
+}
+
+async function save(page, name) {
+  const [download] = await Promise.all([page.waitForEvent("download"), page.click("#btnSave")]);
+  const file = path.join(Work, name);
+  await download.saveAs(file);
+  return file;
+}
+
+async function open(page, file) {
+  await page.setInputFiles("#fileOpen", file);
+  await page.waitForFunction((tick) => window.keldorPage.session.Ticks() === tick, readJson(file).Tick);
+}
+
+test("the page loads without a console error and shows its controls", async () => {
+  const { page, errors } = browser;
+  assert.deepEqual(errors, []);
+  assert.equal(await page.textContent("#status"), "No world: File > New makes one");
+  assert.equal(await page.isDisabled("#btnPlay"), true);
+  assert.equal(await page.isDisabled("#btnSave"), true);
+});
+
+test("a seeded world after 200 ticks equals the batch runner's, and files go both ways", async () => {
+  const { page, errors } = browser;
+  await newWithSeed(page, 7);
+  await stepTicks(page, 200);
+  assert.match(await page.textContent("#status"), /^Tick 200 {3}Seed 7 /);
+  const page200 = await save(page, "page200.json");
+  headless("--seed", "7", "--ticks", "200", "--json", path.join(Work, "batch200.json"));
+  const fromPage = readJson(page200);
+  const fromBatch = readJson(path.join(Work, "batch200.json"));
+  assert.equal(fromPage.Running, false);
+  assert.equal(fromBatch.Running, true);
+  assert.equal(fromPage.Tick, 200);
+  assert.deepEqual(worldPart(fromPage), worldPart(fromBatch));
+
+  // The page's file continues in the batch runner as in the page.
+  await stepTicks(page, 100);
+  const page300 = readJson(await save(page, "page300.json"));
+  headless("--load", page200, "--play", "--ticks", "100", "--json", path.join(Work, "batch300.json"));
+  assert.equal(page300.Tick, 300);
+  assert.deepEqual(worldPart(page300), worldPart(readJson(path.join(Work, "batch300.json"))));
+
+  // The batch runner's file (saved paused) continues in the page as in the batch runner.
+  headless("--load", path.join(Work, "batch200.json"), "--paused", "--json", path.join(Work, "batch200p.json"));
+  await open(page, path.join(Work, "batch200p.json"));
+  await stepTicks(page, 100);
+  const opened300 = readJson(await save(page, "opened300.json"));
+  assert.equal(opened300.Tick, 300);
+  assert.deepEqual(worldPart(opened300), worldPart(readJson(path.join(Work, "batch300.json"))));
+  assert.deepEqual(errors, []);
+});
+
+async function chooseTool(page, tool) {
+  await page.click("#btnPalette");
+  await page.click(`#palette button[data-tool="${tool}"]`);
+}
+
+async function inspectorRow(page, label) {
+  return page.evaluate((label) => {
+    const row = [...document.querySelectorAll("#inspLines tr")].find((r) => r.cells[0].textContent === label);
+    return row ? row.cells[1].textContent : null;
+  }, label);
+}
+
+test("a click with the food tool lays food on the cell under it", async () => {
+  const { page, errors } = browser;
+  await newWithSeed(page, 3);
+  // New makes a 30 x 30 grid on the 2000-unit map at zoom 10: a cell is
+  // 2000 / 30 world units, 10 terrain units each, 15 terrain units a pixel.
+  // Cell X spans (X - 1) to X cell widths; the view's left edge lies half the
+  // view's width left of the scroll bar's value.
+  const view = await page.evaluate(() => {
+    const c = document.getElementById("terrain");
+    return { width: c.width, height: c.height, h: Number(document.getElementById("hScroll").value),
+      v: Number(document.getElementById("vScroll").value) };
+  });
+  const cellPixels = ((2000 / 30) * 10) / 15;
+  const centre = (cellX, cellY) => ({
+    x: (cellX - 0.5) * cellPixels - (view.h - (view.width * 15) / 2) / 15,
+    y: (cellY - 0.5) * cellPixels - (view.v - (view.height * 15) / 2) / 15,
+  });
+  // The first cell beside the nest's without food, as the inspector shows it.
+  let cell = null;
+  for (const [cx, cy] of [[13, 13], [18, 13], [13, 18], [18, 18], [12, 15], [19, 15]]) {
+    await page.click("#terrain", { position: centre(cx, cy) });
+    assert.equal(await page.textContent("#inspTitle"), `Cell (${cx}, ${cy})`);
+    if (Number(await inspectorRow(page, "Food")) === 0) { cell = [cx, cy]; break; }
+  }
+  assert.ok(cell, "a cell without food near the nest");
+
+  // The press lays a pile; each tick while the button is held adds the
+  // amount a pile is laid with, pi (CellSize / 4)^2 ScaleX, to the cell.
+  await chooseTool(page, 1);
+  const box = await page.locator("#terrain").boundingBox();
+  const at = centre(...cell);
+  await page.mouse.move(box.x + at.x, box.y + at.y);
+  const frame = await page.evaluate(() => window.keldorPage.session.FrameNumber());
+  await page.mouse.down();
+  await page.waitForFunction((f) => window.keldorPage.session.FrameNumber() >= f + 2, frame);
+  await page.mouse.up();
+  await chooseTool(page, 0);
+  await page.click("#terrain", { position: at });
+  assert.equal(await page.textContent("#inspTitle"), `Cell (${cell[0]}, ${cell[1]})`);
+  const food = Number(await inspectorRow(page, "Food"));
+  const laid = 3.1415926 * ((2000 / 30 / 4) * (2000 / 30 / 4)) * 10;
+  assert.ok(food >= laid - 0.01, `food ${food} is at least one pile's ${laid}`);
+  assert.ok(Math.abs(food / laid - Math.round(food / laid)) < 1e-5, `food ${food} is whole piles of ${laid}`);
+  assert.match(await page.textContent("#status"), /^Tick 0 /);
+  assert.deepEqual(errors, []);
+});
+
+test("after 400 ticks a screenshot shows the ground, the food, the nest, the ants and the map's frame", async () => {
+  const { page, errors } = browser;
+  await newWithSeed(page, 1);
+  await page.evaluate(() => { for (let i = 0; i < 400; ++i) window.keldorPage.session.Step(); });
+  await page.waitForFunction(() => { const p = window.keldorPage; return p.shownFrame === p.session.FrameNumber(); });
+  assert.match(await page.textContent("#status"), /^Tick 400 /);
+  const shot = decodePng(await page.screenshot({ path: path.join(Work, "page400.png") }));
+  const terrainPixels = shot.width * shot.height;
+  assert.ok(countColour(shot, [185, 172, 145]) > terrainPixels / 10, "the ground");
+  assert.ok(countColour(shot, [16, 152, 16]) > 200, "food piles");
+  assert.ok(countColour(shot, [50, 50, 50]) > 100, "the nest");
+  assert.ok(countColour(shot, [150, 100, 70]) > 20, "ants in the default colony colour");
+  assert.ok(countColour(shot, [255, 0, 0]) > 100, "the mini-map's view frame");
+  assert.deepEqual(errors, []);
+});
