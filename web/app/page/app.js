@@ -272,7 +272,7 @@ class Page {
     this.shownFrame = frame;
     const w = s.TerrainWidth(), h = s.TerrainHeight();
     if (w === this.terrain.width && h === this.terrain.height) {
-      this.terrainContext.putImageData(new ImageData(new Uint8ClampedArray(s.TerrainPixels()), w, h), 0, 0);
+      this.terrainContext.putImageData(imageOf(s.TerrainPixels(), w, h), 0, 0);
       const c = this.terrainContext;
       c.textBaseline = "top";
       for (const t of s.TerrainTexts()) {
@@ -282,7 +282,7 @@ class Page {
       }
     }
     const m = s.MapSize();
-    this.mapContext.putImageData(new ImageData(new Uint8ClampedArray(s.MapPixels()), m, m), 0, 0);
+    this.mapContext.putImageData(imageOf(s.MapPixels(), m, m), 0, 0);
   }
 
   // What the controls show, from the session.
@@ -378,6 +378,12 @@ class Page {
     link.click();
     setTimeout(() => URL.revokeObjectURL(link.href), 1000);
   }
+}
+
+// An ImageData over the session's pixels where they lie in the module's
+// memory: putImageData then copies them once, straight onto the canvas.
+function imageOf(view, width, height) {
+  return new ImageData(new Uint8ClampedArray(view.buffer, view.byteOffset, view.length), width, height);
 }
 
 function escapeHtml(text) {
