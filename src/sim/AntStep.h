@@ -2,10 +2,10 @@
 // it lays, the queen's mark on the nest cell, delivery and feeding at the nest.
 #pragma once
 
-#include <cmath>
 #include <cstdint>
 
 #include "model/Signature.h"
+#include "model/Trigonometry.h"
 
 namespace keldor {
 
@@ -40,7 +40,10 @@ void LayScentTrail(World& world, RandomSource& random, int nestIndex, int antInd
 struct TurnRotation {
   double Cos = 1;
   double Sin = 0;
-  static TurnRotation Of(double angle) { return {std::cos(angle), std::sin(angle)}; }
+  static TurnRotation Of(double angle) {
+    const SineCosine t = SinCos(angle);
+    return {t.Cos, t.Sin};
+  }
 };
 
 // Steps ant j of nest i; does nothing for a dead ant or a paused world.

@@ -1,21 +1,9 @@
 #include "sim/TickTotals.h"
 
-#include <charconv>
-#include <string_view>
-
+#include "model/ShortestText.h"
 #include "model/World.h"
 
 namespace keldor {
-
-namespace {
-
-// The shortest decimal text that reads back as exactly v.
-std::string_view Shortest(double v, char (&buf)[32]) {
-  const auto result = std::to_chars(buf, buf + sizeof buf, v);
-  return std::string_view(buf, static_cast<size_t>(result.ptr - buf));
-}
-
-}  // namespace
 
 TickTotals MeasureTotals(const World& world) {
   TickTotals t;
@@ -42,11 +30,11 @@ TickTotals MeasureTotals(const World& world) {
 }
 
 void WriteTickCsvRow(std::ostream& out, int64_t tick, const TickTotals& t) {
-  char buf[32];
+  char buf[ShortestTextCapacity];
   out << tick << ',' << t.Population << ',' << t.NestCount << ',' << t.FoodPileCount << ',';
-  out << Shortest(t.FoodOnMap, buf) << ',';
-  out << Shortest(t.FoodStored, buf) << ',';
-  out << Shortest(t.Carrying, buf) << ',' << t.ScentedCells << '\n';
+  out << ShortestText(t.FoodOnMap, buf) << ',';
+  out << ShortestText(t.FoodStored, buf) << ',';
+  out << ShortestText(t.Carrying, buf) << ',' << t.ScentedCells << '\n';
 }
 
 }  // namespace keldor
