@@ -65,6 +65,26 @@ test("the page loads without a console error and shows its controls", async () =
   assert.equal(await page.isDisabled("#btnSave"), true);
 });
 
+async function exportCsv(page) {
+  await page.click("#btnCharts");
+  const [download] = await Promise.all([page.waitForEvent("download"), page.click("#btnCsv")]);
+  await page.click("#dlgCharts button[value=close]");
+  return fs.readFileSync(await download.path(), "utf8");
+}
+
+test("a seeded world's 200 ticks give the batch runner's rows of totals, byte for byte", async () => {
+  const { page, errors } = browser;
+  await newWithSeed(page, 5);
+  await stepTicks(page, 200);
+  assert.match(await page.textContent("#status"), /^Tick 200 {3}Seed 5 /);
+  const csv = path.join(Work, "batch.csv");
+  headless("--seed", "5", "--ticks", "200", "--csv", csv);
+  const fromPage = await exportCsv(page);
+  assert.equal(fromPage.split("\n").length, 202);  // the header, 200 rows and the last line's end
+  assert.equal(fromPage, fs.readFileSync(csv, "utf8"));
+  assert.deepEqual(errors, []);
+});
+
 test("a seeded world after 200 ticks equals the batch runner's, and files go both ways", async () => {
   const { page, errors } = browser;
   await newWithSeed(page, 7);
