@@ -190,3 +190,22 @@ test("after 400 ticks a screenshot shows the ground, the food, the nest, the ant
   assert.ok(countColour(shot, [255, 0, 0]) > 100, "the mini-map's view frame");
   assert.deepEqual(errors, []);
 });
+
+test("the options' corrections show as typed, and a world at the population limit gives its message", async () => {
+  const { page, errors } = browser;
+  await page.click("#btnOptions");
+  await page.fill("#optRed", "300");
+  assert.equal(await page.inputValue("#optRed"), "255");
+  await page.fill("#optAnts", "many");
+  assert.equal(await page.inputValue("#optAnts"), "30");
+  await page.fill("#optAnts", "2000");
+  await page.click("#btnOptionsOk");
+  // New's nest holds 2000 ants, the limit, which every tick checks, paused
+  // or not: the next tick of the timer gives the message.
+  await newWithSeed(page, 2);
+  await page.waitForSelector("#dlgMessage[open]");
+  assert.equal(await page.textContent("#txtMessage"), "Maximum ant population has been reached.");
+  assert.equal(await page.textContent("#lblPop"), "2000");
+  await page.click("#dlgMessage button");
+  assert.deepEqual(errors, []);
+});

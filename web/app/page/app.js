@@ -248,7 +248,10 @@ class Page {
 
   afterTicks() {
     const messages = this.session.TakeMessages();
-    if (messages.length) this.message(messages.join("\n"));
+    if (!messages.length) return;
+    this.present();
+    this.refresh();
+    this.message(messages.join("\n"));
   }
 
   frame() {
