@@ -209,3 +209,34 @@ test("the options' corrections show as typed, and a world at the population limi
   await page.click("#dlgMessage button");
   assert.deepEqual(errors, []);
 });
+
+test("on a touch screen one finger pans the view, two pinch to zoom, and a tap picks", async () => {
+  const { page, errors } = browser;
+  await newWithSeed(page, 3);
+  const cdp = await page.context().newCDPSession(page);
+  await cdp.send("Emulation.setTouchEmulationEnabled", { enabled: true, maxTouchPoints: 2 });
+  const touch = (type, ...points) => cdp.send("Input.dispatchTouchEvent", { type, touchPoints: points });
+  const box = await page.locator("#terrain").boundingBox();
+  const [x, y] = [box.x + 400, box.y + 300];
+  const scroll = () => page.evaluate(() => [...document.querySelectorAll(".hscroll, .vscroll")].map((b) => Number(b.value)));
+  const [h, v] = await scroll();
+  // 100 pixels left and 50 up move the view 15 terrain units a pixel the other way.
+  await touch("touchStart", { x, y });
+  for (let i = 1; i <= 10; ++i) await touch("touchMove", { x: x - 10 * i, y: y - 5 * i });
+  await touch("touchEnd");
+  await page.waitForFunction(([h, v]) => {
+    const bars = [...document.querySelectorAll(".hscroll, .vscroll")].map((b) => Number(b.value));
+    return bars[0] === h && bars[1] === v;
+  }, [h + 1500, v + 750]);
+  // Fingers 40 pixels apart moving to 60: one step of 25 % or more.
+  assert.equal(await page.textContent("#lblZoom"), "1×");
+  await touch("touchStart", { x: x - 20, y, id: 1 }, { x: x + 20, y, id: 2 });
+  await touch("touchMove", { x: x - 30, y, id: 1 }, { x: x + 30, y, id: 2 });
+  await touch("touchEnd");
+  await page.waitForFunction(() => document.getElementById("lblZoom").textContent === "1.1×");
+  await touch("touchStart", { x, y });
+  await touch("touchEnd");
+  await page.waitForFunction(() => /^Cell \(\d+, \d+\)$/.test(document.getElementById("inspTitle").textContent));
+  await cdp.send("Emulation.setTouchEmulationEnabled", { enabled: false });
+  assert.deepEqual(errors, []);
+});

@@ -147,7 +147,21 @@ class Page {
   buildTerrainPointer() {
     const t = this.terrain;
     t.addEventListener("contextmenu", (e) => e.preventDefault());
+    // Two fingers pinch to zoom: each 25 % change of their distance is one
+    // press of a zoom button.
+    const touches = new Map();
+    let pinch = 0;
+    const spread = () => { const [a, b] = [...touches.values()]; return Math.hypot(a.x - b.x, a.y - b.y); };
     t.addEventListener("pointerdown", (e) => {
+      if (e.pointerType === "touch") {
+        touches.set(e.pointerId, this.terrainPoint(e));
+        if (touches.size === 2) {
+          if (this.pointer && !this.pointer.pan) this.session.PointerReleased(this.pointer.buttons);
+          this.pointer = null;
+          pinch = spread();
+          return;
+        }
+      }
       if (this.pointer || !this.session.HasWorld()) return;
       t.setPointerCapture(e.pointerId);
       const p = this.terrainPoint(e);
@@ -162,6 +176,16 @@ class Page {
     });
     t.addEventListener("pointermove", (e) => {
       const p = this.terrainPoint(e);
+      if (touches.has(e.pointerId)) touches.set(e.pointerId, p);
+      if (touches.size === 2 && pinch > 0) {
+        const ratio = spread() / pinch;
+        if (ratio > 1.25 || ratio < 0.8) {
+          if (ratio > 1) this.session.ZoomIn(); else this.session.ZoomOut();
+          pinch = spread();
+          this.refresh();
+        }
+        return;
+      }
       const held = this.pointer && this.pointer.id === e.pointerId ? this.pointer : null;
       if (held && held.pan) {
         if (Math.abs(p.x - held.x) + Math.abs(p.y - held.y) > 2) held.moved = true;
@@ -173,6 +197,8 @@ class Page {
       }
     });
     const release = (e) => {
+      touches.delete(e.pointerId);
+      if (touches.size < 2) pinch = 0;
       const held = this.pointer;
       if (!held || held.id !== e.pointerId) return;
       this.pointer = null;
