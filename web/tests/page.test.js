@@ -4,7 +4,7 @@
 // screenshot shows the world.
 "use strict";
 const assert = require("node:assert/strict");
-const { after, before, test } = require("node:test");
+const { after, afterEach, beforeEach, test } = require("node:test");
 const { execFileSync } = require("child_process");
 const fs = require("fs");
 const os = require("os");
@@ -18,9 +18,12 @@ const Work = fs.mkdtempSync(path.join(os.tmpdir(), "keldor-web-test-"));
 const WindowFields = ["CurrentTool", "CursorCellX", "CursorCellY", "MouseButton", "MouseHeld", "MouseX", "MouseY",
   "ShowAnts", "ShowOdor", "TimerEnabled", "ToolColour", "View", "ViewCentreX", "ViewCentreY", "ZoomX", "ZoomY"];
 
+// A fresh browser for every test, so that one failure cannot leave the next
+// a broken page.
 let browser;
-before(async () => { browser = await openPage(); });
-after(async () => { await browser.close(); fs.rmSync(Work, { recursive: true, force: true }); });
+beforeEach(async () => { browser = await openPage(); });
+afterEach(async () => { await browser.close(); });
+after(() => fs.rmSync(Work, { recursive: true, force: true }));
 
 function headless(...args) {
   execFileSync(Headless, args, { env: { ...process.env, QT_QPA_PLATFORM: "offscreen" }, stdio: "pipe" });
