@@ -4,10 +4,9 @@
 
 #include <string_view>
 
-namespace keldor {
+#include "engine/TickPeriod.h"
 
-// The tick timer's interval at 1x, milliseconds.
-inline constexpr int TickPeriodMs = 75;
+namespace keldor {
 
 enum class RunSpeed { Quarter, Half, Normal, Double, Quadruple, Octuple, Fastest };
 

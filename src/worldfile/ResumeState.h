@@ -1,7 +1,7 @@
 // What a saved world needs beyond the World itself to continue exactly as it
-// would have: the ticks it had run, the random source's words, the stepped
-// clock's time of day (none when the real time of day drives the run) and
-// the seed that clock started from (none when it did not start from a seed).
+// would have: the tick it was saved after, the random source's words, the
+// virtual clock's time of day (none when the real clock drives the session)
+// and the seed that clock started from (none when unknown).
 #pragma once
 
 #include <cstdint>

@@ -78,12 +78,12 @@ class WorldFileRoundTripTest : public QObject {
     }
     window.OpenWorldFile(Path("t200.json"));
     QCOMPARE(window.WorldTicks(), 200);
-    QVERIFY(window.findChild<QLabel*>("lblStatus")->text().startsWith("Tick 200   "));
+    QVERIFY(window.findChild<QLabel*>("lblStatus")->text().startsWith("Tick 200   Seed 5   "));
     for (int i = 0; i < 100; ++i) window.AdvanceTick();
     const QString saved = Path("window300-" + QString::number(earlierTicks) + ".json");
     ChooseFile(window, "mnuFileSaveAs", saved);
     QCOMPARE(Contents(saved), Contents(Path("batch300.json")));
-    QVERIFY(window.findChild<QLabel*>("lblStatus")->text().startsWith("Tick 300   "));
+    QVERIFY(window.findChild<QLabel*>("lblStatus")->text().startsWith("Tick 300   Seed 5   "));
 
     // The charts start again from the loaded world: ticks 201..300 only.
     const QString csv = Path("charts-" + QString::number(earlierTicks) + ".csv");

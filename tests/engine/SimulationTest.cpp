@@ -1,0 +1,94 @@
+// The engine's own rules: what a paused tick leaves behind, the tick count,
+// the population-limit notice without a listener, and a refused file.
+#include <gtest/gtest.h>
+
+#include "engine/Simulation.h"
+#include "model/WorldCreation.h"
+#include "sim/TickPainter.h"
+#include "window/Commands.h"
+#include "window/WindowState.h"
+
+namespace keldor {
+namespace {
+
+struct SeededRun {
+  SeededRun() {
+    simulation.StepFromSeed(3);
+    StartUp(simulation.TheWorld(), window);
+    NewWorld(simulation, window, {});
+  }
+  void Ticks(int count) {
+    for (int i = 0; i < count; ++i) simulation.Tick(painter, TickInputOf(window, simulation.TheWorld()));
+  }
+  VirtualClock timeOfDay{99};
+  Simulation simulation{&timeOfDay};
+  WindowState window;
+  NullPainter painter;
+};
+
+TEST(SimulationTest, PausedTicksLeaveNoTraceInTheResumeState) {
+  SeededRun run;
+  run.simulation.TheWorld().Running = true;
+  run.Ticks(5);
+  EXPECT_EQ(run.simulation.Ticks(), 5);
+  const ResumeState afterFive = run.simulation.Resume();
+  ASSERT_TRUE(afterFive.ClockTime.has_value());
+  EXPECT_EQ(afterFive.Seed, 3u);
+  run.simulation.TheWorld().Running = false;
+  run.Ticks(7);
+  const ResumeState paused = run.simulation.Resume();
+  EXPECT_EQ(paused.Tick, 5);
+  EXPECT_EQ(paused.Random, afterFive.Random);
+  EXPECT_EQ(paused.ClockTime, afterFive.ClockTime);
+
+  // Played on, the paused run equals one that never paused.
+  SeededRun straight;
+  straight.simulation.TheWorld().Running = true;
+  straight.Ticks(8);
+  run.simulation.TheWorld().Running = true;
+  run.Ticks(3);
+  EXPECT_EQ(run.simulation.Resume().Random, straight.simulation.Resume().Random);
+  EXPECT_EQ(run.simulation.Ticks(), 8);
+  EXPECT_EQ(run.simulation.TheWorld().Settings.Population, straight.simulation.TheWorld().Settings.Population);
+}
+
+TEST(SimulationTest, NewCountsTicksFromZeroAndTheLimitPausesWithoutAListener) {
+  SeededRun run;
+  World& world = run.simulation.TheWorld();
+  world.Running = true;
+  run.Ticks(2);
+  NewWorld(run.simulation, run.window, {});
+  EXPECT_EQ(run.simulation.Ticks(), 0);
+  // A nest that takes the population to exactly 2000: the next tick's limit
+  // check notices it and, with nobody listening, pauses the world.
+  world.Settings.AntsPerNest = static_cast<int16_t>(2000 - world.Settings.Population);
+  ASSERT_TRUE(CreateNest(world, run.simulation.Random(), 3, 3));
+  ASSERT_EQ(world.Settings.Population, 2000);
+  world.Running = true;
+  run.Ticks(1);
+  EXPECT_EQ(run.simulation.PopulationLimitNotices(), 1);
+  EXPECT_FALSE(world.Running);
+  EXPECT_EQ(run.simulation.Ticks(), 1);  // the tick ran before the pause
+}
+
+TEST(SimulationTest, ARefusedFileChangesNothing) {
+  SeededRun run;
+  run.simulation.TheWorld().Running = true;
+  run.Ticks(4);
+  const std::string before = run.simulation.SaveText(run.window);
+  WindowRecord window;
+  EXPECT_TRUE(run.simulation.LoadText("{\"FormatVersion\": 1}", window).has_value());
+  EXPECT_TRUE(run.simulation.LoadText("not json", window).has_value());
+  EXPECT_EQ(run.simulation.SaveText(run.window), before);
+  EXPECT_EQ(run.simulation.Ticks(), 4);
+  // A good file replaces world, clock, generator and count.
+  SeededRun other;
+  other.simulation.TheWorld().Running = true;
+  other.Ticks(9);
+  ASSERT_FALSE(run.simulation.LoadText(other.simulation.SaveText(other.window), window).has_value());
+  EXPECT_EQ(run.simulation.Ticks(), 9);
+  EXPECT_EQ(run.simulation.SaveText(other.window), other.simulation.SaveText(other.window));
+}
+
+}  // namespace
+}  // namespace keldor
