@@ -58,7 +58,7 @@ std::optional<std::string> ReadWorldFile(const std::string& path, World& world, 
   std::ifstream file(path, std::ios::binary);
   std::ostringstream text;
   if (!file || !(text << file.rdbuf())) return "cannot read " + Quoted(path) + ": " + SystemError();
-  if (auto fault = ReadWorldFileText(text.view(), world, window, resume)) return Quoted(path) + ": " + *fault;
+  if (auto fault = ReadWorldFileText(text.str(), world, window, resume)) return Quoted(path) + ": " + *fault;
   return std::nullopt;
 }
 
