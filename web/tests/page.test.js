@@ -42,6 +42,8 @@ async function newWithSeed(page, seed) {
   await page.click("#btnNewSeed");
   await page.fill("#txtSeed", String(seed));
   await page.click("#btnSeedOk");
+  // The dialog's close event, which makes the world, comes after the click.
+  await page.waitForFunction((seed) => window.keldorPage.session.Status(0).startsWith(`Tick 0   Seed ${seed} `), seed);
 }
 
 async function stepTicks(page, count) {
@@ -201,7 +203,7 @@ test("after 400 ticks a screenshot shows the ground, the food, the nest, the ant
   await newWithSeed(page, 1);
   await page.evaluate(() => { for (let i = 0; i < 400; ++i) window.keldorPage.session.Step(); });
   await page.waitForFunction(() => { const p = window.keldorPage; return p.shownFrame === p.session.FrameNumber(); });
-  assert.match(await page.textContent("#status"), /^Tick 400 /);
+  await page.waitForFunction(() => document.getElementById("status").textContent.startsWith("Tick 400 "));
   const shot = decodePng(await page.screenshot({ path: path.join(Work, "page400.png") }));
   const terrainPixels = shot.width * shot.height;
   assert.ok(countColour(shot, [185, 172, 145]) > terrainPixels / 10, "the ground");
