@@ -344,7 +344,7 @@ class Page {
       bar.min = String(v.min);
       bar.max = String(v.max);
       bar.step = "1";
-      if (!this.pointer || bar !== document.activeElement) bar.value = String(v.value);
+      if (!bar.matches(":active")) bar.value = String(v.value);  // not under the user's drag
       bar.disabled = !hasWorld;
     });
     const status = s.Status(performance.now() / 1000);
