@@ -7,10 +7,12 @@ packages=(
   build-essential cmake ninja-build pkg-config
   qt6-base-dev qt6-base-dev-tools qt6-charts-dev libqt6opengl6-dev libgl-dev
   nlohmann-json3-dev libfmt-dev
+  emscripten nodejs chromium
   libgtest-dev libgmock-dev libbenchmark-dev
   clang libclang-rt-dev
   xvfb xauth
-  emscripten nodejs chromium python3
+  python3
+  dpkg-dev file help2man librsvg2-bin desktop-file-utils appstream lintian man-db
 )
 
 missing=()

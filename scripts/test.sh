@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
-# Builds Keldor and runs every test twice: an optimised build (with the
-# browser edition's tests in headless Chromium after it), then a build
-# with AddressSanitizer and UndefinedBehaviorSanitizer; then runs the fuzz
+# Builds Keldor and runs every test twice: an optimised build (whose Debian
+# package is then made and checked, the golden runs in the WebAssembly
+# engine, and the browser edition's tests in headless Chromium), then a
+# build with AddressSanitizer and UndefinedBehaviorSanitizer; then runs the fuzz
 # targets, built with clang, for under a minute in all. Installs what it needs.
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -14,6 +15,13 @@ echo "== optimised build =="
 cmake -S . -B build -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo >/dev/null
 cmake --build build -j"$jobs"
 ctest --test-dir build --output-on-failure -j"$jobs"
+
+echo "== Debian package =="
+deb=$(bash scripts/package.sh | tail -n 1)
+bash scripts/check-package.sh "$deb" build
+
+echo "== WebAssembly engine: the golden runs under node =="
+bash web/batch/check-golden.sh
 
 echo "== browser edition (WebAssembly, headless Chromium) =="
 bash scripts/build-web.sh

@@ -51,20 +51,22 @@ void Simulation::TakeOver(World&& world, const ResumeState& resume) {
 }
 
 std::optional<std::string> Simulation::LoadText(std::string_view text, WindowRecord& window) {
-  World loaded;
-  WindowRecord loadedWindow;
-  ResumeState resume;
-  if (auto fault = ReadWorldFileText(text, loaded, loadedWindow, resume)) return fault;
-  TakeOver(std::move(loaded), resume);
-  window = loadedWindow;
-  return std::nullopt;
+  return Load(window, [text](World& world, WindowRecord& record, ResumeState& resume) {
+    return ReadWorldFileText(text, world, record, resume);
+  });
 }
 
 std::optional<std::string> Simulation::LoadFile(const std::string& path, WindowRecord& window) {
+  return Load(window, [&path](World& world, WindowRecord& record, ResumeState& resume) {
+    return ReadWorldFile(path, world, record, resume);
+  });
+}
+
+std::optional<std::string> Simulation::Load(WindowRecord& window, const WorldReader& read) {
   World loaded;
   WindowRecord loadedWindow;
   ResumeState resume;
-  if (auto fault = ReadWorldFile(path, loaded, loadedWindow, resume)) return fault;
+  if (auto fault = read(loaded, loadedWindow, resume)) return fault;
   TakeOver(std::move(loaded), resume);
   window = loadedWindow;
   return std::nullopt;

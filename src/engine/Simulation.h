@@ -11,6 +11,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -79,11 +80,13 @@ class Simulation : private TickEvents {
   std::optional<std::string> LoadText(std::string_view text, WindowRecord& window);
   // The same from a file; the fault names the file.
   std::optional<std::string> LoadFile(const std::string& path, WindowRecord& window);
-  // Takes over a world read elsewhere, with its resume state.
-  void TakeOver(World&& world, const ResumeState& resume);
 
  private:
   void PopulationLimitReached() override;
+  // Reads a world into fresh records, then takes it over; the fault otherwise.
+  using WorldReader = std::function<std::optional<std::string>(World&, WindowRecord&, ResumeState&)>;
+  std::optional<std::string> Load(WindowRecord& window, const WorldReader& read);
+  void TakeOver(World&& world, const ResumeState& resume);
 
   SystemTimeOfDay systemTime_;
   RunClock clock_;

@@ -103,6 +103,16 @@ char* WriteWord(char* out, const char* word) {
 
 }  // namespace
 
+ShortestDecimal ShortestDigits(double value) {
+  const auto decimal = fmt::detail::dragonbox::to_decimal(value);
+  ShortestDecimal shortest{decimal.significand, decimal.exponent};
+  while (shortest.Digits % 10 == 0) {
+    shortest.Digits /= 10;
+    ++shortest.Exponent;
+  }
+  return shortest;
+}
+
 std::string_view ShortestText(double value, char (&buffer)[ShortestTextCapacity]) {
   char* out = buffer;
   if (std::signbit(value)) *out++ = '-';
@@ -113,10 +123,10 @@ std::string_view ShortestText(double value, char (&buffer)[ShortestTextCapacity]
   } else if (value == 0) {
     *out++ = '0';
   } else {
-    const auto decimal = fmt::detail::dragonbox::to_decimal(std::fabs(value));
-    const uint64_t digits = decimal.significand;
+    const ShortestDecimal decimal = ShortestDigits(std::fabs(value));
+    const uint64_t digits = decimal.Digits;
     const int count = DecimalDigits(digits);
-    const int exponent = decimal.exponent;
+    const int exponent = decimal.Exponent;
     const int scientific = exponent + count - 1;
     const int plainLength = exponent >= 0 ? count + exponent : (count + exponent > 0 ? count + 1 : 1 - exponent + 1);
     const int magnitude = scientific < 0 ? -scientific : scientific;

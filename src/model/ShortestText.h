@@ -6,9 +6,19 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string_view>
 
 namespace keldor {
+
+// The shortest decimal digits that read back as a finite value above 0, the
+// nearest to it among them: value = Digits x 10^Exponent, Digits without
+// trailing zeros.
+struct ShortestDecimal {
+  uint64_t Digits = 0;
+  int Exponent = 0;
+};
+ShortestDecimal ShortestDigits(double value);
 
 // Room for any text ShortestText writes ("-1.7976931348623157e+308").
 inline constexpr size_t ShortestTextCapacity = 32;

@@ -1,6 +1,6 @@
 // "Keldor Charts": the run's population of each colony in its colour, the
 // food stored, carried and on the map, and the scented cells, over the ticks
-// the world has run. Shows what RunChart holds; exports its rows as CSV and
+// the world has run, on round-numbered axes whose x axes line up. Shows what RunChart holds; exports its rows as CSV and
 // the charts as PNG.
 #pragma once
 
@@ -29,7 +29,11 @@ class ChartsWindow : public QWidget {
   std::vector<int> PointCounts() const;
 
   bool ExportCsv(const QString& path) const;
+  // The plots at twice the screen's pixels.
   bool ExportPng(const QString& path);
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   struct Plot {
@@ -39,7 +43,9 @@ class ChartsWindow : public QWidget {
     QValueAxis* RightY = nullptr;  // for a line on another scale
     std::vector<QLineSeries*> Lines;
   };
-  Plot AddPlot(QWidget* area, const QString& title);
+  Plot AddPlot(QWidget* area, const QString& title, const QString& yTitle);
+  // Widens the margins of the charts so that their plot areas line up.
+  void AlignXAxes();
   QLineSeries* AddLine(Plot& plot, const QString& name, QValueAxis* y = nullptr);
   // Replaces the line's points by the series' and widens the plot's ranges to hold them.
   void Show(QLineSeries* line, const ChartSeries& series, double& xMax, double& yMax);

@@ -29,6 +29,7 @@
 #include "ui/PictureBox.h"
 #include "ui/AboutBox.h"
 #include "ui/OptionsDialog.h"
+#include "ui/ScreenFit.h"
 
 namespace keldor {
 
@@ -73,14 +74,16 @@ MainWindow::MainWindow(MessageBox& messages, Clock* timeOfDay, QWidget* parent)
   BuildButtonBar(central);
   BuildPalette(central);
   BuildInfoPanel(central);
+  BuildGuide();
 
   StartUp(world_, window_);
   timer_.setInterval(TickPeriodMs);
   connect(&timer_, &QTimer::timeout, this, &MainWindow::TimerFired);
   steady_.start();
-  resize(scale_.Pixels(InitialWidth - ClassicFrameWidth),
-         scale_.Pixels(InitialHeight - ClassicFrameHeight) + menuBar()->sizeHint().height() +
-             statusBar()->sizeHint().height());
+  resize(QSize(scale_.Pixels(InitialWidth - ClassicFrameWidth),
+               scale_.Pixels(InitialHeight - ClassicFrameHeight) + menuBar()->sizeHint().height() +
+                   statusBar()->sizeHint().height())
+             .boundedTo(AvailableSize(*this)));
   layout()->activate();  // sizes the client area before the first show
   DoResize();
 }
@@ -237,11 +240,12 @@ namespace {
 // The file dialogs are Qt's own on every platform, so that they look and
 // behave the same everywhere (and tests can answer them).
 QString AskForWorldFile(QWidget* parent, const char* caption, QFileDialog::AcceptMode mode) {
-  QFileDialog dialog(parent, caption, QString(), "Keldor worlds (*.json);;All files (*)");
+  QFileDialog dialog(parent, caption, QString(), "Keldor worlds (*.keldor.json *.json);;All files (*)");
   dialog.setOption(QFileDialog::DontUseNativeDialog);
   dialog.setAcceptMode(mode);
   dialog.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
-  dialog.setDefaultSuffix("json");
+  // The ending the desktop's file type for world files recognises.
+  dialog.setDefaultSuffix("keldor.json");
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
   return dialog.selectedFiles().first();
 }
@@ -352,7 +356,9 @@ void MainWindow::DoResize() {
   if (layout_.Width > width || layout_.Height > height) {
     const int growX = static_cast<int>(std::ceil((layout_.Width - width) / scale_.TwipsPerPixel()));
     const int growY = static_cast<int>(std::ceil((layout_.Height - height) / scale_.TwipsPerPixel()));
-    resize(this->width() + growX, this->height() + growY);
+    // Never beyond the screen: on a small one the view gives up its last pixels.
+    const QSize grown = QSize(this->width() + growX, this->height() + growY).boundedTo(AvailableSize(*this));
+    if (grown != size()) resize(grown);
   }
   ApplyLayout();
   ShowControls();

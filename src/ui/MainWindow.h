@@ -48,6 +48,7 @@ class ProgramStarter;
 class OptionsDialog;
 class ChartsWindow;
 class PickWindow;
+class HelpWindow;
 
 class MainWindow : public QMainWindow {
   Q_OBJECT
@@ -71,6 +72,9 @@ class MainWindow : public QMainWindow {
   // Qt's file dialog unless replaced.
   using WorldFileChooser = std::function<QString(QWidget* parent, const char* caption, QFileDialog::AcceptMode mode)>;
   void SetWorldFileChooser(WorldFileChooser choose) { chooseWorldFile_ = std::move(choose); }
+  // Continues from the world state file at path, as Open World does once a
+  // file is chosen; a file that cannot be read shows its fault instead.
+  void OpenWorldFile(const QString& path);
 
   // Run control, status line, charts and inspector.
   RunSpeed Speed() const { return speed_; }
@@ -78,15 +82,13 @@ class MainWindow : public QMainWindow {
   int TimerInterval() const { return timer_.interval(); }
   // Ticks the world has run since New, counted on from a loaded world's tick.
   int64_t WorldTicks() const { return simulation_.Ticks(); }
-  // Opens a world file, as File > Open World does after its dialog; a bad
-  // file is reported in a message box and the current world stays.
-  void OpenWorldFile(const QString& path);
   // New, with the random source's clock started from the seed as keldor-headless --seed starts it.
   void NewWithSeed(uint64_t seed);
   // One tick of a paused world.
   void Step();
   ChartsWindow* Charts();
   PickWindow* PickView();
+  HelpWindow* Help();
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
@@ -98,6 +100,10 @@ class MainWindow : public QMainWindow {
   void BuildPalette(QWidget* central);
   void BuildTerrain(QWidget* central);
   void BuildInfoPanel(QWidget* central);
+  // Help > Keldor Help, the file shortcuts, and the wheel and arrow keys.
+  void BuildGuide();
+  // Keeps the picked ant in view while the inspector's Follow is ticked.
+  void FollowPick();
   QPushButton* AddBarButton(QWidget* bar, const char* name, double left, const char* toolTip);
 
   // Runs a command on the world, then shows the controls.
@@ -166,6 +172,7 @@ class MainWindow : public QMainWindow {
   Pick pick_;
   QPointer<ChartsWindow> charts_;
   QPointer<PickWindow> pickWindow_;
+  QPointer<HelpWindow> help_;
   std::array<QAction*, std::size(AllRunSpeeds)> mnuSpeed_{};
   QLabel* lblStatus_ = nullptr;
 

@@ -121,14 +121,18 @@ void MainWindow::AskSeed() {
   dialog.setWindowTitle("New with Seed");
   dialog.setLabelText("Seed (a whole number):");
   dialog.setTextValue(QString::number(simulation_.Seed().value_or(1)));
-  if (dialog.exec() != QDialog::Accepted) return;
-  bool ok = false;
-  const qulonglong seed = dialog.textValue().trimmed().toULongLong(&ok);
-  if (!ok) {
+  // Wide enough for the whole title beside the title bar's buttons.
+  dialog.setMinimumWidth(dialog.fontMetrics().horizontalAdvance(dialog.windowTitle()) + 24 * dialog.fontMetrics().height());
+  // A bad seed is explained and asked for again, with what was typed.
+  while (dialog.exec() == QDialog::Accepted) {
+    bool ok = false;
+    const qulonglong seed = dialog.textValue().trimmed().toULongLong(&ok);
+    if (ok) {
+      NewWithSeed(seed);
+      return;
+    }
     messages_.Show("The seed must be a whole number from 0 to 18446744073709551615.");
-    return;
   }
-  NewWithSeed(seed);
 }
 
 void MainWindow::Step() {
@@ -157,6 +161,7 @@ void MainWindow::ShowTick() {
   if (const Ant* ant = LivingAnt(world_, pick_)) DrawPickMarker(world_, window_.View, *ant, canvases_.TerrainCanvas());
   ShowFrame();
   ResizeCanvases();
+  FollowPick();
   ShowControls();
   ShowRun();
 }

@@ -11,6 +11,7 @@
 #include <QVBoxLayout>
 
 #include "platform/QtColour.h"
+#include "ui/SliderValueTip.h"
 
 namespace keldor {
 
@@ -159,6 +160,7 @@ QSlider* OptionsDialog::AddSlider(const char* name, Qt::Orientation orientation,
   slider->setRange(range.Min, range.Max);
   slider->setValue(value);
   connect(slider, &QSlider::valueChanged, this, [this, changed](int v) { (form_.*changed)(v); });
+  ShowValueTips(slider);
   return slider;
 }
 

@@ -1,5 +1,6 @@
 #include "ui/PickWindow.h"
 
+#include <QCheckBox>
 #include <QFont>
 #include <QLabel>
 #include <QVBoxLayout>
@@ -24,8 +25,11 @@ PickWindow::PickWindow(QWidget* parent) : QWidget(parent, Qt::Window) {
   lines_->setFont(QFont("monospace"));
   layout->addWidget(title_);
   layout->addWidget(lines_);
+  follow_ = new QCheckBox("&Follow the picked ant", this);
+  follow_->setObjectName("chkFollow");
+  layout->addWidget(follow_);
   layout->addStretch();
-  resize(300, 260);
+  resize(340, 280);
 }
 
 void PickWindow::Show(const PickReport& inspection) {
@@ -42,5 +46,7 @@ void PickWindow::Show(const PickReport& inspection) {
 QString PickWindow::Text() const { return lines_->text(); }
 
 QString PickWindow::Title() const { return title_->text(); }
+
+bool PickWindow::Following() const { return follow_->isChecked(); }
 
 }  // namespace keldor

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <numbers>
 
 #include "model/Queries.h"
 #include "model/World.h"
@@ -47,8 +48,6 @@ std::string Number(double v, int decimals = 2) {
   return text;
 }
 
-std::string Point(double x, double y) { return "(" + Number(x) + ", " + Number(y) + ")"; }
-
 std::string CellText(int x, int y) { return "(" + std::to_string(x) + ", " + std::to_string(y) + ")"; }
 
 std::string ColourText(Colour colour) {
@@ -60,6 +59,42 @@ int LivingAnts(const Nest& nest) {
   return static_cast<int>(std::count_if(nest.Ants.begin(), nest.Ants.end(), [](const Ant& a) { return a.Energy > 0; }));
 }
 
+// Where the ant stands in its round: the nest takes its load and feeds it
+// while its head is inside the nest's disc; outside, a load means it is on its
+// way home and no load that it looks for food.
+std::string AntActivity(const World& world, const Nest& home, const Ant& ant) {
+  if (!(ant.Energy > 0)) return "dead";
+  const double dx = world.Settings.ScaleX * home.X - world.Settings.ScaleX * ant.HeadX;
+  const double dy = world.Settings.ScaleY * home.Y - world.Settings.ScaleY * ant.HeadY;
+  if (std::sqrt(dy * dy + dx * dx) < home.Radius) return "at the nest";
+  return ant.Load > 0 ? "carrying food home" : "searching for food";
+}
+
+// The compass direction from the ant's rear to its head; north is up.
+std::string Heading(const Ant& ant) {
+  static const char* const directions[] = {"east", "south-east", "south", "south-west",
+                                           "west", "north-west", "north", "north-east"};
+  const double degrees = std::atan2(ant.HeadY - ant.RearY, ant.HeadX - ant.RearX) * 180 / std::numbers::pi;
+  const int sector = static_cast<int>(std::lround(degrees / 45)) % 8;
+  return directions[(sector + 8) % 8];
+}
+
+// The upkeep takes one hundredth of the nest's unit each tick, except from an
+// ant whose life factor is exactly 1 while its energy is above 1.
+std::string LifeLeft(const Nest& home, const Ant& ant) {
+  if (!(ant.Energy > 0)) return "none";
+  if (ant.LifeFactor == 1.0 && ant.Energy > 1.0) return "does not tire";
+  const double perTick = (home.AntUnit + home.AntUnit) / 200;
+  if (!(perTick > 0)) return "does not tire";
+  return "about " + std::to_string(static_cast<long long>(std::ceil(ant.Energy / perTick))) + " ticks without eating";
+}
+
+std::string EnergyShare(const Nest& home, const Ant& ant) {
+  const double maxEnergy = 5 * home.AntUnit;
+  if (!(ant.Energy > 0) || !(maxEnergy > 0)) return "none";
+  return std::to_string(std::lround(100 * ant.Energy / maxEnergy)) + "% of full";
+}
+
 PickReport ReportAnt(const World& world, const Pick& pick) {
   const AntPlace place = FindAnt(world, pick.Serial);
   if (place.Home == nullptr) return {"The picked ant is gone", {}};
@@ -67,14 +102,13 @@ PickReport ReportAnt(const World& world, const Pick& pick) {
   std::string title = place.Index == 0 ? "Queen" : "Ant";
   if (!(a.Energy > 0)) title += " (dead)";
   return {title,
-          {{"Nest", place.Home->Name},
-           {"Energy", Number(a.Energy)},
-           {"Load", Number(a.Load)},
-           {"Life factor", Number(a.LifeFactor)},
+          {{"Colony", place.Home->Name},
+           {"Doing", AntActivity(world, *place.Home, a)},
+           {"Carrying", a.Load > 0 ? Number(a.Load) + " food" : "nothing"},
+           {"Energy", EnergyShare(*place.Home, a)},
+           {"Life left", LifeLeft(*place.Home, a)},
            {"Cell", CellText(a.CellX, a.CellY)},
-           {"Head", Point(a.HeadX, a.HeadY)},
-           {"Rear", Point(a.RearX, a.RearY)},
-           {"Angle", Number(a.Angle, 4)}}};
+           {"Heading", Heading(a)}}};
 }
 
 PickReport ReportNest(const World& world, const Pick& pick) {

@@ -34,7 +34,9 @@ void RunChart::RecordColonies(int64_t tick, const World& world) {
     auto colony = std::find_if(colonies_.begin(), colonies_.end(), [&](const Colony& c) { return c.Serial == nest.Serial; });
     if (colony == colonies_.end()) {
       if (colonies_.size() == MaxColonies) continue;
-      colony = colonies_.insert(colonies_.end(), Colony{nest.Serial, nest.Name, nest.Colour, ChartSeries()});
+      // Named by where its nest lies on the map, which a reader can find.
+      const std::string name = "Nest at cell (" + std::to_string(nest.CellX) + ", " + std::to_string(nest.CellY) + ")";
+      colony = colonies_.insert(colonies_.end(), Colony{nest.Serial, name, nest.Colour, ChartSeries()});
     }
     const auto living = std::count_if(nest.Ants.begin(), nest.Ants.end(), [](const Ant& a) { return a.Energy > 0; });
     colony->Population.Append(tick, static_cast<double>(living));

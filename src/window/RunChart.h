@@ -32,7 +32,7 @@ class RunChart {
 
   struct Colony {
     uint32_t Serial = 0;  // the nest's
-    std::string Name;
+    std::string Name;  // "Nest at cell (x, y)"
     keldor::Colour Colour{};
     ChartSeries Population;
   };

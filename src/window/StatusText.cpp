@@ -11,7 +11,7 @@ std::string StatusText(const RunStatus& status) {
   std::snprintf(rate, sizeof rate, "%.0f", status.TicksPerSecond);
   std::string text = "Tick " + std::to_string(status.Tick) + "   Seed " + seed + "   Speed " +
                      std::string(SpeedLabel(status.Speed)) + "   " + rate + " ticks/s";
-  if (!status.Running && status.Tick == 0) text += "   Paused: press Space to play";
+  if (!status.Running) text += "   Paused: press Space to play";
   return text;
 }
 

@@ -152,4 +152,18 @@ void NavigateFromMap(WindowState& window, double x, double y) {
   SetVerticalScroll(window, CentredValue(Vertical(window), y));
 }
 
+void ScrollBySteps(WindowState& window, int columns, int rows) {
+  SetHorizontalScroll(window, window.HScroll1.Value + columns * window.HScroll1.SmallChange);
+  SetVerticalScroll(window, window.VScroll1.Value + rows * window.VScroll1.SmallChange);
+}
+
+void KeepInView(WindowState& window, double x, double y) {
+  const ViewScale& t = window.View.Terrain;
+  const double tx = x * window.View.ZoomX;
+  const double ty = y * window.View.ZoomY;
+  const bool inside = tx >= t.Left + t.Width / 10 && tx <= t.Left + t.Width * 9 / 10 &&
+                      ty >= t.Top + t.Height / 10 && ty <= t.Top + t.Height * 9 / 10;
+  if (!inside) NavigateFromMap(window, x, y);
+}
+
 }  // namespace keldor

@@ -40,4 +40,13 @@ void ResizeTerrainView(WindowState& window, double newWidth, double newHeight);
 // Mini-map pointing: centre the terrain view on world point (x, y), clamped.
 void NavigateFromMap(WindowState& window, double x, double y);
 
+// The arrow keys: move both scroll bars by `columns` and `rows` of their
+// small change (a cell), as their arrow buttons do, clamped to their ranges.
+void ScrollBySteps(WindowState& window, int columns, int rows);
+
+// Following an ant: when world point (x, y) lies outside the middle of the
+// terrain view (a tenth of the view from any edge), centre the view on it as
+// the mini-map does.
+void KeepInView(WindowState& window, double x, double y);
+
 }  // namespace keldor

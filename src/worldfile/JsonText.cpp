@@ -1,57 +1,13 @@
 #include "worldfile/JsonText.h"
 
 #include <cmath>
-#include <cstdio>
 #include <cstdlib>
+
+#include "model/ShortestText.h"
 
 namespace keldor {
 
 namespace {
-
-// Up to 17 significant digits d1..dn with value = 0.d1..dn x 10^DecimalPoint.
-struct Digits {
-  char Text[32]{};
-  int Count = 0;
-  int DecimalPoint = 0;
-};
-
-// The n-digit decimal nearest to v (printf rounds exactly in every libc the
-// builds use), and whether it reads back as v.
-bool NearestDigits(double v, int n, Digits& digits) {
-  char text[40];
-  std::snprintf(text, sizeof text, "%.*e", n - 1, v);
-  if (std::strtod(text, nullptr) != v) return false;
-  int count = 0;
-  const char* p = text;
-  for (; *p != 'e'; ++p) {
-    if (*p != '.') digits.Text[count++] = *p;
-  }
-  digits.Count = count;
-  digits.DecimalPoint = std::atoi(p + 1) + 1;
-  return true;
-}
-
-// The shortest digits that read back as v (v > 0, finite) and, among those,
-// the nearest to v. Grisu2 (the JSON library's own) finds them for nearly
-// every double but now and then gives one digit more than needed or a last
-// digit one off; the exact decimal conversions correct both.
-Digits ShortestDigits(double v) {
-  Digits grisu;
-  int exponent = 0;
-  nlohmann::detail::dtoa_impl::grisu2(grisu.Text, grisu.Count, exponent, v);
-  grisu.DecimalPoint = grisu.Count + exponent;
-  Digits best = grisu;
-  Digits shorter;
-  bool foundShorter = false;
-  while (best.Count > 1 && NearestDigits(v, best.Count - 1, shorter)) {
-    best = shorter;
-    foundShorter = true;
-  }
-  Digits nearest;
-  if (!foundShorter && NearestDigits(v, grisu.Count, nearest)) best = nearest;
-  while (best.Count > 1 && best.Text[best.Count - 1] == '0') --best.Count;
-  return best;
-}
 
 std::string ExponentText(int exponent) {
   std::string text = exponent < 0 ? "-" : "+";
@@ -134,9 +90,11 @@ std::string NumberText(double value) {
   if (std::trunc(value) == value && std::fabs(value) <= 0x1p53) {
     return std::to_string(static_cast<int64_t>(value));
   }
-  const Digits d = ShortestDigits(std::fabs(value));
-  const int n = d.Count;
-  const int point = d.DecimalPoint;
+  // value = 0.d1..dn x 10^point
+  const ShortestDecimal shortest = ShortestDigits(std::fabs(value));
+  const std::string digits = std::to_string(shortest.Digits);
+  const int n = static_cast<int>(digits.size());
+  const int point = n + shortest.Exponent;
   // Decimal form unless the exponent form is shorter, by the rule Qt's
   // shortest 'g' format follows.
   int bias = 4;
@@ -145,8 +103,7 @@ std::string NumberText(double value) {
   } else if (n == 1 && point <= 0) {
     bias -= 1;
   }
-  const bool decimal = point <= 0 ? 1 - point <= bias : point <= n || point <= n + bias;
-  const std::string digits(d.Text, static_cast<size_t>(n));
+  const bool decimal = point <= 0 ? 1 - point <= bias : point <= n + bias;
   std::string text = value < 0 ? "-" : "";
   if (!decimal) {
     text += digits[0];
@@ -154,7 +111,8 @@ std::string NumberText(double value) {
     return text + "e" + ExponentText(point - 1);
   }
   if (point <= 0) return text + "0." + std::string(static_cast<size_t>(-point), '0') + digits;
-  if (point < n) return text + digits.substr(0, static_cast<size_t>(point)) + "." + digits.substr(static_cast<size_t>(point));
+  const auto whole = static_cast<size_t>(point);
+  if (point < n) return text + digits.substr(0, whole) + "." + digits.substr(whole);
   return text + digits + std::string(static_cast<size_t>(point - n), '0');
 }
 

@@ -65,7 +65,8 @@ template <class Io, Is<WallShape> S>
 void Describe(Io& io, S& shape) {
   io.Field("Colour", shape.Colour);
   io.Field("Material", shape.Material);
-  io.List("Points", static_cast<int64_t>(shape.Points.size()), [] {}, [&](int i) { Describe(io, shape.Points[static_cast<size_t>(i)]); });
+  io.List("Points", static_cast<int64_t>(shape.Points.size()), [] {},
+          [&](int i) { Describe(io, shape.Points[static_cast<size_t>(i)]); });
 }
 
 template <class Io, Is<WallObject> W>

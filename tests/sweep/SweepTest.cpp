@@ -7,8 +7,10 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include "Version.h"
 #include "app/headless/HeadlessRun.h"
 #include "app/sweep/Experiment.h"
+#include "app/sweep/SweepOptions.h"
 
 namespace keldor::sweep {
 namespace {
@@ -32,8 +34,10 @@ void Write(const QString& path, const QByteArray& text) {
 }
 
 struct Sweep {
-  Sweep(const QString& experiment, QStringList arguments) {
-    status = RunSweep(QStringList{"keldor-sweep", experiment} + arguments, out, err, false);
+  Sweep(const QString& experiment, const QStringList& arguments) {
+    std::vector<std::string> list{"keldor-sweep", experiment.toStdString()};
+    for (const QString& argument : arguments) list.push_back(argument.toStdString());
+    status = RunSweep(list, out, err, false);
   }
   int status;
   std::ostringstream out;
@@ -80,7 +84,8 @@ TEST_F(SweepTest, ARowIsTheLastCsvRowOfTheSameKeldorHeadlessRun) {
   const QList<QByteArray> rows = RunTable("t.csv", {}).split('\n');
   std::ostringstream out, err;
   ASSERT_EQ(headless::RunHeadless({"keldor-headless", "--grid", "12", "--nest", "3,3", "--food-rate", "10",
-                                   "--ants-per-nest", "20", "--seed", "7", "--ticks", "40", "--csv", Path("h.csv")},
+                                   "--ants-per-nest", "20", "--seed", "7", "--ticks", "40", "--csv",
+                                   Path("h.csv").toStdString()},
                                   out, err),
             0);
   // Run 11: combination 3 (food rate 10, 20 ants), repetition 2, seed 7.
@@ -115,7 +120,15 @@ TEST_F(SweepTest, BadExperimentsAreRefusedNamingTheKeyOrValue) {
       {R"({"ticks": 5, "vary": {"grid": [10, 20]}, "options": {"nest": "15,15"}})",
        "run 0 (grid 10): --nest 15,15: the cell lies outside"},
       {R"({"ticks": 5, "seed": 1.5})", "\"seed\": 1.5 is not a whole number"},
-      {R"({"ticks": 5, "ticks": 6})", "line 1, column 14: \"ticks\" appears twice"},
+      {R"({"ticks": 5, "options": {"grid": 12.5}})", "options: --grid: '12.5' is not a whole number"},
+      {R"({"ticks": 5, "options": {"nest": ["3,3", "3,x"]}})", "options: --nest: 'x' is not a whole number"},
+      {R"({"ticks": 5, "vary": {"grid": {"first": 1, "step": 0.00001, "last": 2}}})", "in at most 100000 values"},
+      // Hostile files: a repeated key at any depth, deep nesting, a number beyond a double.
+      {R"({"ticks": 5, "ticks": 6})", "\"ticks\" appears twice"},
+      {R"({"ticks": 5, "vary": {"grid": {"first": 1, "first": 2, "step": 1, "last": 3}}})", "\"first\" appears twice"},
+      {"[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[", "nested deeper than 64 levels"},
+      {R"({"ticks": 1e400})", "number overflow"},
+      {R"({"ticks": 5,})", "line 1, column 13"},
       {R"({"seed": 1})", "\"ticks\" is missing"},
   };
   for (const auto& c : cases) {
@@ -134,8 +147,27 @@ TEST(ExperimentTest, RangesKeepTheirDecimalsAndVaryTheLastKeyFastest) {
   // 0.1, 0.2, 0.3 (0.35 is not reached) x 2 flags; 0.1 + 2 * 0.1 printed with one decimal.
   EXPECT_EQ(p.Result.RunCount(), 6);
   EXPECT_EQ(p.Result.Run(5).VariedValues, (std::vector<std::string>{"0.3", "false"}));
-  EXPECT_EQ(p.Result.Run(4).Arguments,
-            (QStringList{"keldor-sweep", "--ant-size=0.3", "--odor", "--seed=0", "--ticks=1"}));
+  // Run 4: the third size with the flag set; the size is the 0.3 the table shows.
+  const headless::HeadlessOptions run4 = p.Result.Run(4).Options;
+  EXPECT_TRUE(run4.World.AntSizeMm == 0.3 && run4.View.Odor && !p.Result.Run(5).Options.View.Odor);
+  // Values are read from their JSON values: a list of cells, a number as text, keys in file order.
+  const ExperimentParse q = ParseExperiment(
+      R"({"ticks": 2, "seed": 40, "options": {"nest": ["1,2", "3,4"], "zoom": "4"},
+          "vary": {"grid": {"first": 8, "step": 2, "last": 12}, "food-rate": [1.0, 7]}, "repetitions": 2})");
+  ASSERT_EQ(q.Error, "");
+  // Run 9: combination 9 / 2 = 4 (grid 8 + 2 * 2 = 12, food rate 1), repetition 1.
+  const RunPlan plan = q.Result.Run(9);
+  EXPECT_EQ(plan.VariedValues, (std::vector<std::string>{"12", "1"}));
+  EXPECT_TRUE(plan.Options.World.Grid == 12 && plan.Options.World.FoodRate == 1 && plan.Options.View.Zoom == 4);
+  EXPECT_EQ(plan.Options.Scenario.at(1).Argument, "--nest 3,4");
+}
+
+// The options' values reach the sweeps above; here the version and a fault.
+TEST(SweepOptionsTest, VersionNamesTheProgramAndABadShardIsRefused) {
+  EXPECT_EQ(ParseSweepArguments({"keldor-sweep", "--version"}, 1).Message,
+            std::string("keldor-sweep ") + KeldorVersion + "\n");
+  EXPECT_EQ(ParseSweepArguments({"keldor-sweep", "a", "--shard", "3/2"}, 1).Message,
+            "--shard: '3/2' is not I/N with 1 <= I <= N");
 }
 
 }  // namespace

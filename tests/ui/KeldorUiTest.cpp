@@ -60,11 +60,6 @@ T* Child(QObject* parent, const char* name) {
 }
 
 // Chooses `path` as the file of the menu entry (Open World, Save World As).
-void ChooseFile(MainWindow& window, const char* entry, const QString& path) {
-  window.SetWorldFileChooser([path](QWidget*, const char*, QFileDialog::AcceptMode) { return path; });
-  Child<QAction>(&window, entry)->trigger();
-}
-
 void Click(QObject* parent, const char* name) { QTest::mouseClick(Child<QPushButton>(parent, name), Qt::LeftButton); }
 
 // Sends a mouse event as the window system does (QTest's mouseMove carries no buttons).
@@ -98,9 +93,6 @@ class NoPrograms : public ProgramStarter {
   std::vector<std::string> started;
 };
 
-// The world file of the window's run.
-std::string SavedText(MainWindow& window) { return window.TheSimulation().SaveText(window.Window()); }
-
 }  // namespace
 
 class KeldorUiTest : public QObject {
@@ -120,46 +112,6 @@ class KeldorUiTest : public QObject {
   }
 
   // ---- The main window
-
-  // ---- World files
-
-  void aSavedWorldOpensAndContinuesIdentically() {
-    QTemporaryDir dir;
-    const QString path = dir.filePath("world.json");
-    QVERIFY(!Child<QAction>(W(), "mnuFileSaveAs")->isEnabled());  // nothing to save before New
-    window_->NewWithSeed(5);  // a stepped clock: the file holds its time
-    Click(W(), "btnStop");
-    Click(W(), "btnOdor");
-    for (int i = 0; i < 20; ++i) window_->AdvanceTick();
-    ChooseFile(*window_, "mnuFileSaveAs", path);
-    // Ticked straight on, without the event loop (and Timer1) in between.
-    const auto tenTicksOn = [](MainWindow& window) {
-      for (int i = 0; i < 10; ++i) window.AdvanceTick();
-      return SavedText(window);
-    };
-    const std::string straight = tenTicksOn(*window_);
-    const int64_t ticks = window_->WorldTicks();
-
-    VirtualClock otherClock(99);
-    MainWindow opened(messages_, &otherClock);
-    opened.show();
-    ChooseFile(opened, "mnuFileOpen", path);
-    QCOMPARE(tenTicksOn(opened), straight);
-    QCOMPARE(opened.WorldTicks(), ticks);
-    QCOMPARE(Child<QPushButton>(&opened, "btnStop")->toolTip(), QString("Pause"));
-    QCOMPARE(Child<QPushButton>(&opened, "btnOdor")->toolTip(), QString("Hide Odor Traces"));
-
-    // A damaged file is reported and leaves the world as it was.
-    QFile damaged(dir.filePath("damaged.json"));
-    QVERIFY(damaged.open(QIODevice::WriteOnly));
-    damaged.write(QByteArray::fromStdString(straight).replace("\"GridX\": 30", "\"GridX\": -30"));
-    damaged.close();
-    const std::string before = SavedText(opened);
-    ChooseFile(opened, "mnuFileOpen", damaged.fileName());
-    QCOMPARE(messages_.shown.size(), size_t{1});
-    QVERIFY2(messages_.shown[0].find("GridX: not a whole number") != std::string::npos, messages_.shown[0].c_str());
-    QCOMPARE(SavedText(opened), before);
-  }
 
   void startsWithoutAWorldAndWithFaintDisabledButtons() {
     for (const char* name : {"btnStop", "cmdZoomIn", "cmdZoomOut", "btnOdor", "btnAnts"}) {

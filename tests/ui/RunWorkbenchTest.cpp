@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QFile>
 #include <QLabel>
+#include <QCheckBox>
 #include <QInputDialog>
 #include <QJsonDocument>
 #include <QPushButton>
@@ -138,8 +139,10 @@ class RunWorkbenchTest : public QObject {
     QTest::mouseClick(W()->findChild<PictureBox*>("picTerreno"), Qt::LeftButton, {}, pixel);
     PickWindow* inspector = window_->PickView();
     QCOMPARE(inspector->Title(), QString("Ant"));
-    QVERIFY2(inspector->Text().startsWith("Nest: NEST_0\nEnergy: 1234.50\nLoad: 0.00\nLife factor: 1.00\nCell: (13, 13)"),
+    // Away from the nest with no load, and with a life factor of 1 the upkeep spares it.
+    QVERIFY2(inspector->Text().startsWith("Colony: NEST_0\nDoing: searching for food\nCarrying: nothing\n"),
              qPrintable(inspector->Text()));
+    QVERIFY(inspector->Text().contains("Life left: does not tire\nCell: (13, 13)\nHeading: east"));
     const auto marked = [&] {  // any magenta pixel
       const QImage frame = W()->findChild<PictureBox*>("picTerreno")->Frame().convertToFormat(QImage::Format_RGB32);
       const auto* pixels = reinterpret_cast<const QRgb*>(frame.constBits());
@@ -147,6 +150,21 @@ class RunWorkbenchTest : public QObject {
     };
     window_->AdvanceTick();
     QVERIFY(marked());
+
+    // Followed, the ant walking off the view brings the view along.
+    inspector->findChild<QCheckBox*>("chkFollow")->setChecked(true);
+    ant.RearX = 1.2 * cell;
+    ant.HeadX = 1.8 * cell;
+    ant.RearY = ant.HeadY = 1.5 * cell;
+    ant.CellX = ant.CellY = 2;
+    const auto inView = [&] {
+      const ViewScale& t = view.Terrain;
+      const double x = ant.HeadX * view.ZoomX, y = ant.HeadY * view.ZoomY;
+      return x > t.Left && x < t.Left + t.Width && y > t.Top && y < t.Top + t.Height;
+    };
+    QVERIFY(!inView());
+    window_->AdvanceTick();
+    QVERIFY(inView());
     ant.Energy = 0;
     window_->AdvanceTick();
     QVERIFY(!marked());
@@ -167,8 +185,8 @@ class RunWorkbenchTest : public QObject {
     QCOMPARE(ticks, 120);
     QTemporaryDir dir;
     std::ostringstream out, err;
-    QCOMPARE(headless::RunHeadless({"keldor-headless", "--seed", "42", "--ticks", QString::number(ticks), "--json",
-                                    dir.filePath("run.json"), "--csv", dir.filePath("run.csv")},
+    QCOMPARE(headless::RunHeadless({"keldor-headless", "--seed", "42", "--ticks", std::to_string(ticks), "--json",
+                                    dir.filePath("run.json").toStdString(), "--csv", dir.filePath("run.csv").toStdString()},
                                    out, err),
              0);
     QFile json(dir.filePath("run.json"));

@@ -17,9 +17,10 @@
 namespace keldor {
 namespace {
 
-class SilentMessageBox : public MessageBox {
+class RecordingMessageBox : public MessageBox {
  public:
-  void Show(const std::string&) override {}
+  void Show(const std::string& text) override { shown.push_back(text); }
+  std::vector<std::string> shown;
 };
 
 // Runs keldor-headless; fails the test on a non-zero exit.
@@ -64,7 +65,7 @@ class WorldFileRoundTripTest : public QObject {
   }
   void openedWorldRunsOnAsTheBatchRunnerDoes() {
     QFETCH(int, earlierTicks);
-    SilentMessageBox messages;
+    RecordingMessageBox messages;
     VirtualClock timeOfDay(77);  // a time of day unlike the file's clock
     MainWindow window(messages, &timeOfDay);
     window.show();
@@ -94,7 +95,7 @@ class WorldFileRoundTripTest : public QObject {
   }
 
   void aWorldSavedPausedStaysPausedOrPlaysAsAsked() {
-    SilentMessageBox messages;
+    RecordingMessageBox messages;
     MainWindow window(messages);
     window.show();
     window.OpenWorldFile(Path("t200.json"));
@@ -110,6 +111,16 @@ class WorldFileRoundTripTest : public QObject {
               Path("played.json")});
     // Played on, the paused file continues as the running one does, but for the Play/Pause state.
     QCOMPARE(Contents(Path("played.json")), Contents(Path("batch300.json")));
+
+    // A damaged file is reported and leaves the window's world as it was.
+    QFile damaged(Path("damaged.json"));
+    QVERIFY(damaged.open(QIODevice::WriteOnly));
+    damaged.write(Contents(Path("paused.json")).replace("\"GridX\": 30", "\"GridX\": -30"));
+    damaged.close();
+    const std::string before = window.TheSimulation().SaveText(window.Window());
+    window.OpenWorldFile(damaged.fileName());
+    QVERIFY(messages.shown.size() == 1 && messages.shown[0].find("GridX") != std::string::npos);
+    QCOMPARE(window.TheSimulation().SaveText(window.Window()), before);
   }
 
  private:

@@ -6,10 +6,30 @@
 
 #include "support/TestWorld.h"
 #include "window/ChartSeries.h"
+#include "window/ChartTicks.h"
 #include "window/RunChart.h"
 
 namespace keldor {
 namespace {
+
+TEST(RoundTicksTest, StepsAreOneTwoOrFiveTimesAPowerOfTenAndTheAxisEndsOnATick) {
+  struct Case {
+    double dataMax;
+    double interval, max;
+  } cases[] = {
+      {89127, 20000, 100000},  // 89127 / 5 = 17825: 10000 gives 50000, too short; 20000 x 5 reaches it
+      {1340, 500, 1500},       // 268 a step: 100 and 200 fall short, 500 x 3 = 1500
+      {479000, 100000, 500000},
+      {1e9, 2e8, 1e9},
+      {7, 2, 8},               // counts: 1 x 5 < 7, 2 x 4 = 8
+      {0.3, 1, 1},             // an almost empty chart still has one whole step
+  };
+  for (const Case& c : cases) {
+    const AxisTicks ticks = RoundTicks(c.dataMax, 5);
+    EXPECT_DOUBLE_EQ(ticks.Interval, c.interval) << c.dataMax;
+    EXPECT_DOUBLE_EQ(ticks.Max, c.max) << c.dataMax;
+  }
+}
 
 TEST(ChartSeriesTest, ShortSeriesKeepEveryTick) {
   ChartSeries series(4);
@@ -48,6 +68,11 @@ TEST(RunChartTest, RecordsTotalsAndColoniesAndThinsRowsEvenly) {
   RunChart chart;
   for (int64_t tick = 1; tick <= 70'000; ++tick) chart.Record(tick, w);
   ASSERT_EQ(chart.Colonies().size(), 1u);
+  w.Nests[0].CellX = 12;  // a hand-set cell: the name reads it at the colony's first record
+  w.Nests[0].CellY = 30;
+  RunChart named;
+  named.Record(1, w);
+  EXPECT_EQ(named.Colonies()[0].Name, "Nest at cell (12, 30)");
   std::vector<ChartPoint> points;
   chart.Colonies()[0].Population.Points(points);
   EXPECT_EQ(points.back().Value, 29);  // 30 ants, one dead

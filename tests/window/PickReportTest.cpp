@@ -14,6 +14,10 @@ struct PickReportTest : ::testing::Test {
     // Worker 1 lies from (10, 10) to (14, 10); the last worker from (30, 30) to (30, 34).
     Place(1, 10, 10, 14, 10);
     Place(last, 30, 30, 30, 34);
+    // A unit of 40: full is 200, and the upkeep takes 0.4 a tick.
+    nest.AntUnit = 40;
+    nest.Radius = 1;
+    nest.X = nest.Y = 1000;
   }
   void Place(int i, double rx, double ry, double hx, double hy) {
     Ant& a = world.Nests[0].Ants[i];
@@ -56,14 +60,24 @@ TEST_F(PickReportTest, AnAntIsFollowedAcrossRenumberingUntilItDies) {
   const PickReport seen = ReportPick(world, pick);
   EXPECT_EQ(seen.Title, "Ant");
   const std::vector<std::pair<std::string, std::string>> expected = {
-      {"Nest", "NEST_0"},          {"Energy", "99.30"},         {"Load", "12.25"},
-      {"Life factor", "0.75"},     {"Cell", "(1, 1)"},          {"Head", "(30.00, 34.00)"},
-      {"Rear", "(30.00, 30.00)"},  {"Angle", "0.5000"}};
+      {"Colony", "NEST_0"},   {"Doing", "carrying food home"},
+      {"Carrying", "12.25 food"}, {"Energy", "50% of full"},  // 99.3 of 200
+      {"Life left", "about 249 ticks without eating"},       // 99.3 / 0.4 = 248.25
+      {"Cell", "(1, 1)"},     {"Heading", "south"}};           // rear (30, 30), head (30, 34)
   EXPECT_EQ(seen.Lines, expected);
   ASSERT_NE(LivingAnt(world, pick), nullptr);
+  Ant& ant = *const_cast<Ant*>(LivingAnt(world, pick));
+  ant.Load = 0;
+  EXPECT_EQ(ReportPick(world, pick).Lines[1].second, "searching for food");
+  nest.X = 30;  // the head (30, 34) lies inside the disc
+  nest.Y = 34;
+  EXPECT_EQ(ReportPick(world, pick).Lines[1].second, "at the nest");
+  ant.Energy = 1.0;
+  EXPECT_EQ(ReportPick(world, pick).Lines[4].second, "about 3 ticks without eating");  // 1 / 0.4 = 2.5
   const_cast<Ant*>(LivingAnt(world, pick))->Energy = 0;
   EXPECT_EQ(LivingAnt(world, pick), nullptr);
   EXPECT_EQ(ReportPick(world, pick).Title, "Ant (dead)");
+  EXPECT_EQ(ReportPick(world, pick).Lines[1].second, "dead");
 }
 
 TEST_F(PickReportTest, NestAndCellLines) {

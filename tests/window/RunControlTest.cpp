@@ -58,6 +58,9 @@ TEST(StatusTextTest, NamesTickSeedSpeedRateAndThePausedHint) {
             "Tick 0   Seed 7   Speed 1x   0 ticks/s   Paused: press Space to play");
   EXPECT_EQ(StatusText({true, true, 1234, std::nullopt, RunSpeed::Fastest, 5123.6}),
             "Tick 1234   Seed time of day   Speed Fastest   5124 ticks/s");
+  // Paused later in the run, it still says so.
+  EXPECT_EQ(StatusText({true, false, 1234, 7, RunSpeed::Normal, 0}),
+            "Tick 1234   Seed 7   Speed 1x   0 ticks/s   Paused: press Space to play");
 }
 
 }  // namespace

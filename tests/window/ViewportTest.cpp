@@ -69,6 +69,27 @@ TEST(ViewportTest, ResizeKeepsTheCentreOrClampsToTheEdge) {
   EXPECT_DOUBLE_EQ(w.View.Terrain.Left, 0);
 }
 
+TEST(ViewportTest, ArrowStepsMoveByTheSmallChangeAndFollowingRecentresOnlyNearTheEdge) {
+  WindowState w = StartedWindow();  // zoom 10, view 6720 wide, centred at 10000 of 3360..16640
+  w.HScroll1.SmallChange = 100;
+  w.VScroll1.SmallChange = 100;
+  const int top = w.VScroll1.Value;
+  ScrollBySteps(w, 3, -2);
+  EXPECT_EQ(w.HScroll1.Value, 10300);
+  EXPECT_DOUBLE_EQ(w.View.Terrain.Left, 10300 - 3360);
+  EXPECT_EQ(w.VScroll1.Value, top - 200);
+  ScrollBySteps(w, -1000, 0);
+  EXPECT_EQ(w.HScroll1.Value, 3360);
+  WindowState f = StartedWindow();
+  // The middle spans terrain 6640 + 672 .. 6640 + 6048, world x 731.2 .. 1268.8.
+  KeepInView(f, 1260, f.ViewCentreY);
+  EXPECT_EQ(f.HScroll1.Value, 10000);
+  KeepInView(f, 1300, f.ViewCentreY);
+  EXPECT_EQ(f.HScroll1.Value, 13000);
+  KeepInView(f, 100, f.ViewCentreY);
+  EXPECT_EQ(f.HScroll1.Value, 3360);  // clamped at the world's left edge
+}
+
 TEST(WindowLayoutTest, SmallWindowSnapsBackToTheMinimum) {
   testing::TestWorld t;
   WindowLayout layout;

@@ -7,7 +7,6 @@
 #include <filesystem>
 #include <fstream>
 #include <functional>
-#include <sstream>
 
 #include <nlohmann/json.hpp>
 
@@ -58,12 +57,8 @@ TEST_F(WorldFileTest, AWorldReadBackIsWrittenAsTheSameText) {
   const Loaded loaded = Read(text_);
   ASSERT_FALSE(loaded.fault) << *loaded.fault;
   EXPECT_EQ(WorldFileText(loaded.world, loaded.window, loaded.resume), text_);
-  EXPECT_EQ(loaded.world.LastSerial, saved_.world.LastSerial);
-  EXPECT_EQ(loaded.world.Nests[0].Ants[3].Serial, saved_.world.Nests[0].Ants[3].Serial);
-  EXPECT_EQ(loaded.resume.Random[3], UINT64_MAX);
   EXPECT_EQ(loaded.resume.Seed, 42u);
-  // The largest seed is written whole, not as a double.
-  resume_.Seed = UINT64_MAX;
+  resume_.Seed = UINT64_MAX;  // written whole, not as a double
   const std::string text = WorldFileText(saved_.world, saved_.window, resume_);
   EXPECT_NE(text.find("\"Seed\": 18446744073709551615,"), std::string::npos);
   EXPECT_EQ(Read(text).resume.Seed, UINT64_MAX);
@@ -71,12 +66,9 @@ TEST_F(WorldFileTest, AWorldReadBackIsWrittenAsTheSameText) {
 
 TEST_F(WorldFileTest, BadFieldsAreRefusedNamingThem) {
   EXPECT_EQ(FaultAfter([](Json& s) { s["Running"] = "yes"; }), "Running: not true or false");
-  EXPECT_EQ(FaultAfter([](Json& s) { s.erase("TimerEnabled"); }), "TimerEnabled: missing");
   EXPECT_EQ(FaultAfter([](Json& s) { s["View"]["MapBoxWidth"] = 2001; }), "View.MapBoxWidth: must be 2000");
-  EXPECT_EQ(FaultAfter([](Json& s) { s["View"]["Terrain"]["Width"] = 0; }), "View.Terrain.Width: not above 0");
   EXPECT_EQ(FaultAfter([](Json& s) { s["MouseX"] = 1e39; }), "MouseX: outside the single-precision range");
   EXPECT_EQ(FaultAfter([](Json& s) { s["ClockTime"] = 86400; }), "ClockTime: not a time of day in seconds");
-  EXPECT_EQ(FaultAfter([](Json& s) { s["Tick"] = 2.5; }), "Tick: not a whole number from 0 to 9007199254740992");
   EXPECT_EQ(FaultAfter([](Json& s) { s["Seed"] = -1; }), "Seed: not null or a whole number from 0 to 2^64 - 1");
   EXPECT_EQ(FaultAfter([](Json& s) { s["RandomState"][2] = "12345678abcdefgh"; }),
             "RandomState: not four words of 16 hex digits");
@@ -97,10 +89,6 @@ TEST_F(WorldFileTest, HostileDocumentsAreRefusedWithoutBuildingThem) {
   }
   EXPECT_EQ(Read("[1]").fault, "not a world state: the document is not an object");
   std::string huge = text_;
-  const size_t value = huge.find("\"CellSize\": ") + 12;
-  huge.replace(value, huge.find(',', value) - value, "1e999");
-  EXPECT_EQ(Read(huge).fault, "CellSize: not a number");
-  huge = text_;
   huge.replace(huge.find("\"Food\": ", huge.find("\"Cells\"")) + 8, 1, "-1e999");
   EXPECT_EQ(Read(huge).fault, "Cells[0].Food: not a number");
   // A value that is not finite is written as null and refused on reading.
@@ -139,7 +127,6 @@ TEST_F(WorldFileTest, FilesWithoutSerialsOrSeedGetSerialsInFileOrder) {
     EXPECT_EQ(nest.Ants[nest.AntCount()].Serial, 0u);
   }
   EXPECT_EQ(loaded.world.LastSerial, next - 1);
-  EXPECT_GT(next, 30u);
 }
 
 TEST_F(WorldFileTest, FilesAreReplacedWholeOrNotAtAll) {
@@ -162,7 +149,8 @@ TEST_F(WorldFileTest, FilesAreReplacedWholeOrNotAtAll) {
   EXPECT_EQ(ReadWorldFile("/dev/null", loaded.world, loaded.window, loaded.resume),
             "cannot read '/dev/null': not a regular file");
   std::ofstream(path) << "{";
-  EXPECT_EQ(ReadWorldFile(path, loaded.world, loaded.window, loaded.resume).value_or("").rfind("'" + path + "': not a world state", 0), 0u);
+  const std::string fault = ReadWorldFile(path, loaded.world, loaded.window, loaded.resume).value_or("");
+  EXPECT_EQ(fault.rfind("'" + path + "': not a world state", 0), 0u);
   std::filesystem::remove_all(dir);
 }
 

@@ -1,17 +1,18 @@
-// The command line of keldor-headless: what world to build, what to put on it,
-// how many ticks to run and which files to write. Parsing checks the syntax
-// and ranges of every value; the checks that need the built world (cells
-// inside the grid, the ant size against the nest radius) happen when it is built.
+// The options of keldor-headless: what world to build, what to put on it,
+// how many ticks to run and which files to write, described once
+// (HeadlessOptionTable) for the command line and keldor-sweep's experiments.
+// Reading checks the syntax and range of every value and how options combine;
+// the checks that need the built world (cells inside the grid, the ant size
+// against the nest radius) happen when it is built.
 #pragma once
 
 #include <cstdint>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
-#include <QString>
-#include <QStringList>
-
+#include "app/headless/OptionTable.h"
 #include "render/ViewState.h"
 
 namespace keldor::headless {
@@ -26,7 +27,7 @@ inline constexpr int MaxZoom = 100;
 
 enum class ScenarioKind { Nest, Wall, Food };
 
-// One --nest, --wall or --food on the command line, in command-line order.
+// One --nest, --wall or --food, in the order given.
 struct ScenarioStep {
   ScenarioKind Kind = ScenarioKind::Nest;
   int X = 0;
@@ -53,7 +54,7 @@ struct ViewOptions {
 };
 
 struct HeadlessOptions {
-  QString LoadPath;  // a world state file to start from instead of New
+  std::string LoadPath;  // a world state file to start from instead of New
   std::optional<uint64_t> Seed;  // none: the loaded clock, or the real time of day
   WorldOptions World;
   std::vector<ScenarioStep> Scenario;
@@ -61,26 +62,32 @@ struct HeadlessOptions {
   bool Paused = false;
   bool Play = false;  // play a loaded world that was saved paused
   ViewOptions View;
-  QString JsonPath;
-  QString CsvPath;
-  QString PngPath;
-  QString FramesDir;
+  std::string JsonPath;
+  std::string CsvPath;
+  std::string PngPath;
+  std::string FramesDir;
   int64_t Every = 1;  // a frame every Every ticks
 };
 
+// The description of every option, storing each value read into `options`;
+// --help and --version set `help` and `version`. The table refers to all
+// three, which must outlive it.
+OptionTable HeadlessOptionTable(HeadlessOptions& options, bool& help, bool& version);
+
+// The checks of options together, once all are read (`given` names them):
+// world options with --load, --every without --frames, --play with --paused
+// or without --load, two options writing one file. Returns the message naming the option.
+std::optional<std::string> CheckCombinations(const HeadlessOptions& options, const std::set<std::string>& given);
+
 struct ParsedArguments {
-  enum class Outcome { Run, Help, Error };
+  enum class Outcome { Run, Help, Version, Error };
   Outcome Result = Outcome::Error;
   HeadlessOptions Options;
-  QString Message;  // the help text, or the error naming the bad argument
+  std::string Message;  // the help text, the version line, or the error naming the bad argument
 };
 
 // Parses the full argument list (program name first).
-ParsedArguments ParseHeadlessArguments(const QStringList& arguments);
-
-// How an option (named without its dashes) is given: a flag alone, one
-// value, or a value that may repeat (the scenario steps). None: no such option.
-enum class OptionForm { Flag, Value, Repeatable };
-std::optional<OptionForm> FindOptionForm(const QString& name);
+ParsedArguments ParseHeadlessArguments(const std::vector<std::string>& arguments);
+ParsedArguments ParseHeadlessArguments(int argc, const char* const* argv);
 
 }  // namespace keldor::headless

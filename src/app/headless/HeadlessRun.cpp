@@ -40,23 +40,23 @@ void PrintSummary(std::ostream& out, const World& world, int64_t ticks, double s
 
 }  // namespace
 
-int RunHeadless(const QStringList& arguments, std::ostream& out, std::ostream& err, bool showProgress) {
+int RunHeadless(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& err, bool showProgress) {
   const ParsedArguments parsed = ParseHeadlessArguments(arguments);
-  if (parsed.Result == ParsedArguments::Outcome::Help) {
-    out << parsed.Message.toStdString();
+  if (parsed.Result == ParsedArguments::Outcome::Help || parsed.Result == ParsedArguments::Outcome::Version) {
+    out << parsed.Message;
     return ExitOk;
   }
-  if (parsed.Result == ParsedArguments::Outcome::Error) return Fail(err, parsed.Message.toStdString(), ExitBadArguments);
+  if (parsed.Result == ParsedArguments::Outcome::Error) return Fail(err, parsed.Message, ExitBadArguments);
   const HeadlessOptions& options = parsed.Options;
 
   Simulation simulation;
   WindowState window;
-  if (!options.LoadPath.isEmpty()) {
-    if (const auto fault = simulation.LoadFile(options.LoadPath.toStdString(), window)) {
+  if (!options.LoadPath.empty()) {
+    if (const auto fault = simulation.LoadFile(options.LoadPath, window)) {
       return Fail(err, "--load: " + *fault, ExitBadArguments);
     }
   }
-  const auto problem = options.LoadPath.isEmpty() ? BuildWorld(simulation, window, options)
+  const auto problem = options.LoadPath.empty() ? BuildWorld(simulation, window, options)
                                                   : ContinueWorld(simulation, window, options);
   if (problem) return Fail(err, *problem, ExitBadArguments);
   World& world = simulation.TheWorld();

@@ -4,8 +4,8 @@
 #pragma once
 
 #include <ostream>
-
-#include <QStringList>
+#include <string>
+#include <vector>
 
 namespace keldor::headless {
 
@@ -19,6 +19,6 @@ inline constexpr int ExitInterrupted = 128;
 // Runs keldor-headless with the given arguments (program name first); the
 // summary goes to `out`, messages, errors and, when showProgress, the progress
 // of a long run to `err`. Returns the exit status.
-int RunHeadless(const QStringList& arguments, std::ostream& out, std::ostream& err, bool showProgress = false);
+int RunHeadless(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& err, bool showProgress = false);
 
 }  // namespace keldor::headless

@@ -11,8 +11,9 @@ std::string CannotWrite(const char* option, const QString& path, const QString& 
   return std::string("--") + option + ": cannot write '" + path.toStdString() + "': " + reason.toStdString();
 }
 
-std::optional<std::string> OpenSaveFile(const char* option, const QString& path, std::unique_ptr<QSaveFile>& file) {
-  if (path.isEmpty()) return std::nullopt;
+std::optional<std::string> OpenSaveFile(const char* option, const std::string& name, std::unique_ptr<QSaveFile>& file) {
+  if (name.empty()) return std::nullopt;
+  const QString path = QString::fromStdString(name);
   file = std::make_unique<QSaveFile>(path);
   if (!file->open(QIODevice::WriteOnly)) return CannotWrite(option, path, file->errorString());
   return std::nullopt;
@@ -48,11 +49,12 @@ std::optional<std::string> OutputFiles::Open(const HeadlessOptions& options) {
     csvStream_ = std::make_unique<std::ostream>(csvBuffer_.get());
   }
   if (auto problem = OpenSaveFile("png", options.PngPath, png_)) return problem;
-  if (!options.FramesDir.isEmpty()) {
-    const QFileInfo dir(options.FramesDir);
-    if (dir.exists() && !dir.isDir()) return CannotWrite("frames", options.FramesDir, "not a folder");
-    if (!QDir().mkpath(options.FramesDir)) return CannotWrite("frames", options.FramesDir, "cannot make the folder");
-    framesDir_ = options.FramesDir;
+  if (!options.FramesDir.empty()) {
+    const QString framesDir = QString::fromStdString(options.FramesDir);
+    const QFileInfo dir(framesDir);
+    if (dir.exists() && !dir.isDir()) return CannotWrite("frames", framesDir, "not a folder");
+    if (!QDir().mkpath(framesDir)) return CannotWrite("frames", framesDir, "cannot make the folder");
+    framesDir_ = framesDir;
   }
   return std::nullopt;
 }

@@ -13,6 +13,8 @@ int main(int argc, char* argv[]) {
   // The PNG frame is drawn with fonts, which need a GUI application; the
   // offscreen platform lets it run without a display.
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  // The application takes the arguments it reads itself (-platform...) out of argv.
   QGuiApplication app(argc, argv);
-  return keldor::headless::RunHeadless(QGuiApplication::arguments(), std::cout, std::cerr, isatty(STDERR_FILENO) != 0);
+  return keldor::headless::RunHeadless(std::vector<std::string>(argv, argv + argc), std::cout, std::cerr,
+                                       isatty(STDERR_FILENO) != 0);
 }

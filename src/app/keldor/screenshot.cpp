@@ -5,28 +5,47 @@
 // with the offscreen platform or under a virtual display.
 //   keldor-screenshot OUTPUT.png [TICKS] [SEED] [charts]
 #include <QApplication>
+#include <QCommandLineParser>
 #include <QPainter>
 #include <QPushButton>
 #include <algorithm>
 #include <cstdio>
-#include <cstdlib>
-#include <string_view>
 
+#include "app/keldor/HelpOrVersion.h"
 #include "platform/QtMessageBox.h"
 #include "ui/AppTexts.h"
 #include "ui/ChartsWindow.h"
 #include "ui/MainWindow.h"
 
+namespace {
+
+void DescribeCommandLine(QCommandLineParser& parser) {
+  parser.setApplicationDescription(
+      "Makes the default world with New with Seed SEED, plays it with the odor traces shown for TICKS ticks "
+      "and saves the main window's picture to OUTPUT.png; with \"charts\", run at Fastest and paused, with the "
+      "charts window beside it. Run it with QT_QPA_PLATFORM=offscreen or on a virtual display.");
+  parser.addHelpOption();
+  parser.addVersionOption();
+  parser.addPositionalArgument("OUTPUT.png", "The picture to write.");
+  parser.addPositionalArgument("TICKS", "Ticks to run (default 400).", "[TICKS]");
+  parser.addPositionalArgument("SEED", "Seed of the run's clock (default 1).", "[SEED]");
+  parser.addPositionalArgument("charts", "Picture the charts window too.", "[charts]");
+}
+
+}  // namespace
+
 int main(int argc, char* argv[]) {
+  keldor::AnswerHelpOrVersion(argc, argv, "keldor-screenshot", DescribeCommandLine);
   QApplication app(argc, argv);
   QApplication::setApplicationName(keldor::ApplicationTitle);
-  if (argc < 2) {
-    std::fprintf(stderr, "usage: keldor-screenshot OUTPUT.png [TICKS] [SEED] [charts]\n");
-    return 2;
-  }
-  const int ticks = argc > 2 ? std::atoi(argv[2]) : 400;
-  const uint64_t seed = argc > 3 ? std::strtoull(argv[3], nullptr, 10) : 1;
-  const bool charts = argc > 4 && std::string_view(argv[4]) == "charts";
+  QCommandLineParser parser;
+  DescribeCommandLine(parser);
+  parser.process(app);
+  const QStringList args = parser.positionalArguments();
+  if (args.isEmpty() || args.size() > 4) parser.showHelp(2);
+  const int ticks = args.size() > 1 ? args[1].toInt() : 400;
+  const uint64_t seed = args.size() > 2 ? args[2].toULongLong() : 1;
+  const bool charts = args.size() > 3 && args[3] == "charts";
 
   keldor::QtMessageBox messages;
   keldor::MainWindow window(messages);
@@ -55,8 +74,8 @@ int main(int argc, char* argv[]) {
     painter.end();
     picture = both;
   }
-  if (!picture.save(argv[1])) {
-    std::fprintf(stderr, "cannot write %s\n", argv[1]);
+  if (!picture.save(args[0])) {
+    std::fprintf(stderr, "cannot write %s\n", qPrintable(args[0]));
     return 1;
   }
   return 0;

@@ -4,42 +4,58 @@
 #include <charconv>
 #include <cmath>
 #include <optional>
+#include <set>
 
-#include "app/headless/HeadlessOptions.h"
+#include "app/sweep/OptionJson.h"
 
 namespace keldor::sweep {
 
-using headless::OptionForm;
-
 namespace {
 
-// Options a run's command line does not take from the experiment: the seed
-// and tick count are top-level keys, the sweep writes every file itself, and
-// every run starts from New.
-bool SetByTheSweep(const std::string& name) {
-  return name == "seed" || name == "ticks" || name == "json" || name == "csv" || name == "png" || name == "frames" ||
-         name == "every" || name == "load";
-}
+// One run's options, read value by value through keldor-headless's option
+// table, with the names given for the checks of options together.
+class OptionsBuilder {
+ public:
+  OptionsBuilder() : table_(headless::HeadlessOptionTable(options_, help_, version_)) {}
+  OptionsBuilder(const OptionsBuilder&) = delete;
+  OptionsBuilder& operator=(const OptionsBuilder&) = delete;
 
-bool IsScalar(const JsonValue& v) { return v.Type == JsonValue::Kind::Number || v.Type == JsonValue::Kind::String; }
-
-void AppendOption(QStringList& arguments, const std::string& name, const JsonValue& value) {
-  const QString option = "--" + QString::fromStdString(name);
-  if (value.Type == JsonValue::Kind::Bool) {
-    if (value.Bool) arguments << option;
-  } else if (value.Type == JsonValue::Kind::Array) {
-    for (const JsonValue& item : value.Items) arguments << option + "=" + QString::fromStdString(item.Text);
-  } else {
-    arguments << option + "=" + QString::fromStdString(value.Text);
+  // Stores an option an experiment may set; returns what is wrong, if anything.
+  std::string Store(const std::string& name, const Json& value) {
+    const headless::OptionSpec* spec = headless::FindOption(table_, name);
+    if (spec == nullptr) return "unknown option \"" + name + "\"";
+    if (!spec->InExperiments) {
+      return "\"" + name + "\" is not set here (seed and ticks are top-level keys; the sweep writes its own files)";
+    }
+    return StoreSpec(*spec, value);
   }
-}
+
+  // The top-level "ticks", checked as --ticks is.
+  std::string StoreTicks(const Json& value) { return StoreSpec(*headless::FindOption(table_, "ticks"), value); }
+
+  const headless::HeadlessOptions& Options() const { return options_; }
+  std::optional<std::string> CheckCombinations() const { return headless::CheckCombinations(options_, given_); }
+
+ private:
+  std::string StoreSpec(const headless::OptionSpec& spec, const Json& value) {
+    const JsonOptionRead read = StoreJsonOption(spec, value);
+    if (read.Given) given_.insert(spec.Name);
+    return read.Error;
+  }
+
+  headless::HeadlessOptions options_;
+  bool help_ = false;
+  bool version_ = false;
+  headless::OptionTable table_;
+  std::set<std::string> given_;
+};
 
 // A whole number within lo..hi, or nothing.
-std::optional<int64_t> WholeNumber(const JsonValue& v, double lo, double hi) {
-  if (v.Type != JsonValue::Kind::Number || !(v.Number >= lo && v.Number <= hi) || std::floor(v.Number) != v.Number) {
-    return std::nullopt;
-  }
-  return static_cast<int64_t>(v.Number);
+std::optional<int64_t> WholeNumber(const Json& v, double lo, double hi) {
+  if (!v.is_number()) return std::nullopt;
+  const double number = v.get<double>();
+  if (!(number >= lo && number <= hi) || std::floor(number) != number) return std::nullopt;
+  return static_cast<int64_t>(number);
 }
 
 class ExperimentReader {
@@ -51,100 +67,104 @@ class ExperimentReader {
     if (error_.empty()) error_ = message;
   }
 
-  // Checks that a value fits the option's form: a flag takes true or false, a
-  // valued option a number or string, a repeatable one also a list of them.
-  void CheckValue(const std::string& where, const std::string& name, const JsonValue& value) {
-    const auto form = headless::FindOptionForm(QString::fromStdString(name));
-    if (!form) return Fail(where + ": unknown option \"" + name + "\"");
-    if (SetByTheSweep(name)) {
-      return Fail(where + ": \"" + name +
-                  "\" is not set here (seed and ticks are top-level keys; the sweep writes its own files)");
+  // Each shared option is read into one run's options, as every run reads them.
+  Json Options(const Json& options) {
+    if (!options.is_object()) {
+      Fail("\"options\" must be an object");
+      return Json::object();
     }
-    const bool fits =
-        *form == OptionForm::Flag ? value.Type == JsonValue::Kind::Bool
-        : IsScalar(value) ? true
-        : *form == OptionForm::Repeatable && value.Type == JsonValue::Kind::Array &&
-              std::all_of(value.Items.begin(), value.Items.end(), IsScalar);
-    if (!fits) {
-      Fail(where + ": \"" + name + "\" takes " +
-           (*form == OptionForm::Flag         ? "true or false"
-            : *form == OptionForm::Repeatable ? "a value or a list of values"
-                                              : "a number or a string"));
+    OptionsBuilder run;
+    for (const auto& item : options.items()) {
+      if (const std::string problem = run.Store(item.key(), item.value()); !problem.empty()) Fail("options: " + problem);
     }
+    if (const auto problem = run.CheckCombinations()) Fail("options: " + *problem);
+    return options;
   }
 
-  std::vector<JsonMember> Options(const JsonValue& options) {
-    if (options.Type != JsonValue::Kind::Object) Fail("\"options\" must be an object");
-    for (const auto& [name, value] : options.Members) CheckValue("options", name, value);
-    return options.Members;
-  }
-
-  std::vector<JsonValue> Range(const std::string& where, const JsonValue& range) {
-    for (const auto& [key, value] : range.Members) {
+  std::vector<VariedValue> Range(const std::string& where, const Json& range) {
+    for (const auto& item : range.items()) {
+      const std::string& key = item.key();
       if (key != "first" && key != "step" && key != "last") Fail(where + ": unknown key \"" + key + "\"");
     }
-    const JsonValue* first = range.Find("first");
-    const JsonValue* step = range.Find("step");
-    const JsonValue* last = range.Find("last");
-    for (const JsonValue* v : {first, step, last}) {
-      if (v == nullptr || v->Type != JsonValue::Kind::Number || !std::isfinite(v->Number)) {
+    for (const char* key : {"first", "step", "last"}) {
+      if (!range.contains(key) || !range[key].is_number()) {
         Fail(where + ": a range needs the numbers \"first\", \"step\" and \"last\"");
         return {};
       }
     }
-    const double steps = (last->Number - first->Number) / step->Number;
-    if (step->Number == 0 || !(steps > -1e-9) || steps >= static_cast<double>(MaxValues)) {
-      Fail(where + ": a step of " + step->Text + " from " + first->Text + " does not reach " + last->Text +
-           " in at most " + std::to_string(MaxValues) + " values");
+    const double first = range["first"].get<double>();
+    const double step = range["step"].get<double>();
+    const double last = range["last"].get<double>();
+    const double steps = std::floor((last - first) / step + 1e-9);
+    if (step == 0 || !(steps >= 0) || steps + 1 > static_cast<double>(MaxValues)) {
+      Fail(where + ": a step of " + JsonText(range["step"]) + " from " + JsonText(range["first"]) +
+           " does not reach " + JsonText(range["last"]) + " in at most " + std::to_string(MaxValues) + " values");
       return {};
     }
-    const int decimals = std::max(Decimals(first->Text), Decimals(step->Text));
-    const auto count = static_cast<int64_t>(std::floor(steps + 1e-9)) + 1;
-    std::vector<JsonValue> values(static_cast<size_t>(count));
-    for (int64_t i = 0; i < count; ++i) {
-      JsonValue& v = values[static_cast<size_t>(i)];
-      v.Type = JsonValue::Kind::Number;
-      v.Number = first->Number + static_cast<double>(i) * step->Number;
-      v.Text = NumberText(v.Number, decimals);
-    }
+    const int firstDecimals = Decimals(first);
+    const int stepDecimals = Decimals(step);
+    const int decimals = firstDecimals < 0 || stepDecimals < 0 ? -1 : std::max(firstDecimals, stepDecimals);
+    const auto count = static_cast<int64_t>(steps) + 1;
+    std::vector<VariedValue> values;
+    values.reserve(static_cast<size_t>(count));
+    for (int64_t i = 0; i < count; ++i) values.push_back(RangeValue(first + static_cast<double>(i) * step, decimals));
     return values;
   }
 
-  std::vector<VariedOption> Vary(const JsonValue& vary) {
+  std::vector<VariedOption> Vary(const Json& vary) {
     std::vector<VariedOption> varied;
-    if (vary.Type != JsonValue::Kind::Object) Fail("\"vary\" must be an object");
-    for (const auto& [name, values] : vary.Members) {
+    if (!vary.is_object()) {
+      Fail("\"vary\" must be an object");
+      return varied;
+    }
+    for (const auto& item : vary.items()) {
+      const std::string& name = item.key();
+      const Json& values = item.value();
       const std::string where = "vary \"" + name + "\"";
-      if (values.Type == JsonValue::Kind::Object) {
+      if (values.is_object()) {
         varied.push_back({name, Range(where, values)});
-      } else if (values.Type == JsonValue::Kind::Array && !values.Items.empty()) {
-        varied.push_back({name, values.Items});
+      } else if (values.is_array() && !values.empty()) {
+        varied.push_back({name, {}});
+        for (const Json& value : values) varied.back().Values.push_back({value, JsonText(value)});
       } else {
         Fail(where + ": give a list of values or {\"first\", \"step\", \"last\"}");
         continue;
       }
-      for (const JsonValue& value : varied.back().Values) CheckValue(where, name, value);
+      // Each value on its own; how they combine with the rest is checked run by run.
+      OptionsBuilder run;
+      for (const VariedValue& value : varied.back().Values) {
+        if (const std::string problem = run.Store(name, value.Value); !problem.empty()) Fail(where + ": " + problem);
+        if (Failed()) break;
+      }
     }
     return varied;
   }
 
  private:
-  // Digits after the decimal point in a number as written; -1 (the shortest
-  // exact form) with an exponent or more digits than a double holds.
-  static int Decimals(const std::string& text) {
-    if (text.find_first_of("eE") != std::string::npos) return -1;
+  // Digits after the decimal point in a number's shortest exact form written
+  // without an exponent (1e-05: 5); -1 when that is more than a double holds.
+  static int Decimals(double v) {
+    char buf[400];
+    const auto written = std::to_chars(buf, buf + sizeof buf, v, std::chars_format::fixed);
+    const std::string text(buf, written.ptr);
     const size_t point = text.find('.');
     const size_t decimals = point == std::string::npos ? 0 : text.size() - point - 1;
     return decimals > 17 ? -1 : static_cast<int>(decimals);
   }
 
   // A range's value with as many decimals as its first value and step have,
-  // so that 0.1 steps read 0.3 and not 0.30000000000000004.
-  static std::string NumberText(double v, int decimals) {
+  // so that 0.1 steps give 0.3 and not 0.30000000000000004; the option gets
+  // the number that text shows, a whole number when it has no decimals.
+  static VariedValue RangeValue(double v, int decimals) {
     char buf[400];
-    const auto result = decimals < 0 ? std::to_chars(buf, buf + sizeof buf, v)
-                                     : std::to_chars(buf, buf + sizeof buf, v, std::chars_format::fixed, decimals);
-    return std::string(buf, result.ptr);
+    const auto written = decimals < 0 ? std::to_chars(buf, buf + sizeof buf, v)
+                                      : std::to_chars(buf, buf + sizeof buf, v, std::chars_format::fixed, decimals);
+    std::string text(buf, written.ptr);
+    double shown = v;
+    std::from_chars(text.data(), text.data() + text.size(), shown);
+    constexpr double Limit = 9223372036854775808.0;  // 2^63
+    const bool whole = decimals == 0 && shown >= -Limit && shown < Limit;
+    return {whole ? Json(static_cast<int64_t>(shown)) : Json(shown), std::move(text)};
   }
 
   std::string error_;
@@ -169,80 +189,67 @@ RunPlan Experiment::Run(int64_t run) const {
     chosen[i] = static_cast<size_t>(combination % size);
     combination /= size;
   }
-  plan.Arguments << "keldor-sweep";
-  for (const auto& [name, value] : Options) AppendOption(plan.Arguments, name, value);
-  for (size_t i = 0; i < Vary.size(); ++i) {
-    const JsonValue& value = Vary[i].Values[chosen[i]];
-    AppendOption(plan.Arguments, Vary[i].Name, value);
-    plan.VariedValues.push_back(ValueText(value));
+  OptionsBuilder options;
+  for (const auto& item : Options.items()) {
+    if (std::string problem = options.Store(item.key(), item.value()); plan.Error.empty()) plan.Error = problem;
   }
-  plan.Arguments << QString("--seed=%1").arg(plan.Seed) << "--ticks=" + QString::fromStdString(Ticks);
+  for (size_t i = 0; i < Vary.size(); ++i) {
+    const VariedValue& value = Vary[i].Values[chosen[i]];
+    if (std::string problem = options.Store(Vary[i].Name, value.Value); plan.Error.empty()) plan.Error = problem;
+    plan.VariedValues.push_back(value.Text);
+  }
+  if (const auto problem = options.CheckCombinations(); plan.Error.empty() && problem) plan.Error = *problem;
+  plan.Options = options.Options();
+  plan.Options.Seed = plan.Seed;
+  plan.Options.Ticks = Ticks;
   return plan;
-}
-
-QStringList Experiment::BaseArguments() const {
-  QStringList arguments{"keldor-sweep"};
-  for (const auto& [name, option] : Options) AppendOption(arguments, name, option);
-  return arguments << QString("--seed=%1").arg(Seed) << "--ticks=" + QString::fromStdString(Ticks);
-}
-
-QStringList Experiment::ArgumentsWith(const VariedOption& varied, const JsonValue& value) const {
-  QStringList arguments = BaseArguments();
-  AppendOption(arguments, varied.Name, value);
-  return arguments;
-}
-
-std::string ValueText(const JsonValue& value) {
-  if (value.Type == JsonValue::Kind::Bool) return value.Bool ? "true" : "false";
-  if (value.Type != JsonValue::Kind::Array) return value.Text;
-  std::string text;
-  for (const JsonValue& item : value.Items) text += (text.empty() ? "" : " ") + item.Text;
-  return text;
 }
 
 ExperimentParse ParseExperiment(std::string_view text) {
   ExperimentParse parsed;
   const JsonParse json = ParseJson(text);
-  if (!json.Value) {
+  if (!json.Error.empty()) {
     parsed.Error = json.Error;
     return parsed;
   }
-  const JsonValue& root = *json.Value;
-  if (root.Type != JsonValue::Kind::Object) {
+  const Json& root = json.Value;
+  if (!root.is_object()) {
     parsed.Error = "an experiment is a JSON object";
     return parsed;
   }
   ExperimentReader read;
   Experiment& e = parsed.Result;
-  for (const auto& [key, value] : root.Members) {
+  for (const auto& item : root.items()) {
+    const std::string& key = item.key();
+    const Json& value = item.value();
     if (key == "options") {
       e.Options = read.Options(value);
     } else if (key == "vary") {
       e.Vary = read.Vary(value);
     } else if (key == "repetitions") {
       const auto n = WholeNumber(value, 1, static_cast<double>(MaxRuns));
-      if (!n) read.Fail("\"repetitions\": " + value.Text + " is not a whole number from 1 to " + std::to_string(MaxRuns));
+      if (!n) read.Fail("\"repetitions\": " + JsonText(value) + " is not a whole number from 1 to " + std::to_string(MaxRuns));
       e.Repetitions = n.value_or(1);
     } else if (key == "seed") {
       const auto n = WholeNumber(value, 0, MaxSeed);
-      if (!n) read.Fail("\"seed\": " + value.Text + " is not a whole number from 0 to 2^53");
+      if (!n) read.Fail("\"seed\": " + JsonText(value) + " is not a whole number from 0 to 2^53");
       e.Seed = static_cast<uint64_t>(n.value_or(0));
     } else if (key == "ticks") {
-      if (value.Type != JsonValue::Kind::Number) read.Fail("\"ticks\" must be a number");
-      e.Ticks = value.Text;
+      if (!value.is_number()) read.Fail("\"ticks\" must be a number");
+      OptionsBuilder run;
+      if (const std::string problem = run.StoreTicks(value); !problem.empty()) read.Fail("\"ticks\": " + problem);
+      e.Ticks = run.Options().Ticks;
     } else if (key == "every") {
       const auto n = WholeNumber(value, 1, static_cast<double>(INT32_MAX));
-      if (!n) read.Fail("\"every\": " + value.Text + " is not a whole number of ticks from 1");
+      if (!n) read.Fail("\"every\": " + JsonText(value) + " is not a whole number of ticks from 1");
       e.Every = n.value_or(0);
     } else {
       read.Fail("unknown key \"" + key + "\"");
     }
   }
-  if (root.Find("ticks") == nullptr) read.Fail("\"ticks\" is missing");
+  if (!root.contains("ticks")) read.Fail("\"ticks\" is missing");
   for (const VariedOption& v : e.Vary) {
-    if (std::any_of(e.Options.begin(), e.Options.end(), [&](const auto& o) { return o.Name == v.Name; })) {
-      read.Fail("\"" + v.Name + "\" is both in \"options\" and in \"vary\"");
-    }
+    if (e.Options.contains(v.Name)) read.Fail("\"" + v.Name + "\" is both in \"options\" and in \"vary\"");
   }
   if (!read.Failed()) {
     double runs = static_cast<double>(e.Repetitions);

@@ -1,6 +1,7 @@
 // An experiment: the keldor-headless options every run shares, the options
 // it varies with their values, how often each combination repeats, the seed,
-// the tick count and how often a run's series gets a row.
+// the tick count and how often a run's series gets a row. Option values are
+// read from the file's JSON values through keldor-headless's option table.
 //
 // Runs are numbered from 0. Combinations are counted with the varied keys in
 // file order, the last key varying fastest; run r is repetition
@@ -12,9 +13,8 @@
 #include <string_view>
 #include <vector>
 
-#include <QStringList>
-
-#include "app/sweep/JsonValue.h"
+#include "app/headless/HeadlessOptions.h"
+#include "app/sweep/ExperimentJson.h"
 
 namespace keldor::sweep {
 
@@ -24,9 +24,14 @@ inline constexpr int64_t MaxValues = 100'000;
 // The largest seed a JSON number holds exactly.
 inline constexpr double MaxSeed = 9007199254740992.0;  // 2^53
 
+struct VariedValue {
+  Json Value;        // as "options" takes it
+  std::string Text;  // as the results table shows it
+};
+
 struct VariedOption {
   std::string Name;
-  std::vector<JsonValue> Values;  // each a value as "options" takes it
+  std::vector<VariedValue> Values;
 };
 
 // What one run is given.
@@ -34,24 +39,21 @@ struct RunPlan {
   int64_t Run = 0;
   uint64_t Seed = 0;
   std::vector<std::string> VariedValues;  // the varied options' values as text, in key order
-  QStringList Arguments;                  // a keldor-headless command line, program name first
+  headless::HeadlessOptions Options;
+  std::string Error;  // how the options do not combine; empty when they do
 };
 
 struct Experiment {
-  std::vector<JsonMember> Options;  // in file order
-  std::vector<VariedOption> Vary;                           // in file order
+  Json Options = Json::object();  // the shared options, in file order
+  std::vector<VariedOption> Vary;  // in file order
   int64_t Repetitions = 1;
   uint64_t Seed = 0;
-  std::string Ticks = "0";  // as written, checked by the option parser
-  int64_t Every = 0;        // 0: no series files
+  int64_t Ticks = 0;
+  int64_t Every = 0;  // 0: no series files
 
   int64_t CombinationCount() const;
   int64_t RunCount() const { return CombinationCount() * Repetitions; }
   RunPlan Run(int64_t run) const;
-  // The command line of the shared options, the seed and the tick count.
-  QStringList BaseArguments() const;
-  // The same with one value of a varied option.
-  QStringList ArgumentsWith(const VariedOption& varied, const JsonValue& value) const;
 };
 
 struct ExperimentParse {
@@ -59,12 +61,9 @@ struct ExperimentParse {
   std::string Error;  // empty when the file was read; else names the key or value
 };
 
-// Reads an experiment file's text. Checks its shape (known keys, value
-// types, ranges given as {"first","step","last"}); the option values
-// themselves are checked by CheckExperiment.
+// Reads an experiment file's text: its shape (known keys, value types,
+// ranges given as {"first","step","last"}) and every option value on its own.
+// The worlds of the combinations are checked by CheckExperiment.
 ExperimentParse ParseExperiment(std::string_view text);
-
-// The text a value of an option gives in the results table.
-std::string ValueText(const JsonValue& value);
 
 }  // namespace keldor::sweep

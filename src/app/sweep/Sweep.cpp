@@ -35,7 +35,8 @@ int Fail(std::ostream& err, const std::string& message, int status) {
 }
 
 // A run's series table beside the results: results.csv -> results-run-000012.csv.
-QString SeriesPath(const QString& outPath, int64_t run) {
+QString SeriesPath(const std::string& out, int64_t run) {
+  const QString outPath = QString::fromStdString(out);
   const QString base = outPath.endsWith(".csv") ? outPath.chopped(4) : outPath;
   return base + QString("-run-%1.csv").arg(run, 6, 10, QChar('0'));
 }
@@ -47,13 +48,10 @@ struct FinishedRun {
   int Status = ExitOk;
 };
 
-FinishedRun Execute(const Experiment& experiment, const QString& outPath, int64_t run) {
+FinishedRun Execute(const Experiment& experiment, const std::string& outPath, int64_t run) {
   const RunPlan plan = experiment.Run(run);
-  headless::HeadlessOptions options;
-  if (auto problem = ParseRunArguments(plan.Arguments, options)) {
-    return {"", "", "run " + std::to_string(run) + ": " + *problem, ExitBadArguments};
-  }
-  const RunOutcome outcome = RunOne(options, experiment.Every);
+  if (!plan.Error.empty()) return {"", "", "run " + std::to_string(run) + ": " + plan.Error, ExitBadArguments};
+  const RunOutcome outcome = RunOne(plan.Options, experiment.Every);
   if (outcome.Error) return {"", "", "run " + std::to_string(run) + ": " + *outcome.Error, ExitBadArguments};
   if (experiment.Every > 0) {
     QSaveFile series(SeriesPath(outPath, run));
@@ -69,7 +67,7 @@ FinishedRun Execute(const Experiment& experiment, const QString& outPath, int64_
 // order; the calling thread hands each finished run to `write` in that order.
 // A false return from `write` stops the pool after the runs under way.
 template <class Write>
-void RunPool(const Experiment& experiment, const QString& outPath, const std::vector<int64_t>& pending, int jobs,
+void RunPool(const Experiment& experiment, const std::string& outPath, const std::vector<int64_t>& pending, int jobs,
              Write write) {
   std::map<size_t, FinishedRun> finished;  // by index in `pending`, until written
   std::mutex mutex;
@@ -98,20 +96,18 @@ void RunPool(const Experiment& experiment, const QString& outPath, const std::ve
 
 }  // namespace
 
-int RunSweep(const QStringList& arguments, std::ostream& out, std::ostream& err, bool errIsTerminal) {
+int RunSweep(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& err, bool errIsTerminal) {
   const ParsedSweepArguments parsed =
       ParseSweepArguments(arguments, static_cast<int>(std::thread::hardware_concurrency()));
-  if (parsed.Result == ParsedSweepArguments::Outcome::Help) {
-    out << parsed.Message.toStdString();
+  if (parsed.Result == ParsedSweepArguments::Outcome::Help || parsed.Result == ParsedSweepArguments::Outcome::Version) {
+    out << parsed.Message;
     return ExitOk;
   }
-  if (parsed.Result == ParsedSweepArguments::Outcome::Error) {
-    return Fail(err, parsed.Message.toStdString(), ExitBadArguments);
-  }
+  if (parsed.Result == ParsedSweepArguments::Outcome::Error) return Fail(err, parsed.Message, ExitBadArguments);
   const SweepOptions& options = parsed.Options;
 
-  const std::string experimentName = "'" + options.ExperimentPath.toStdString() + "'";
-  QFile experimentFile(options.ExperimentPath);
+  const std::string experimentName = "'" + options.ExperimentPath + "'";
+  QFile experimentFile(QString::fromStdString(options.ExperimentPath));
   if (!experimentFile.open(QIODevice::ReadOnly)) {
     return Fail(err, "cannot read " + experimentName + ": " + experimentFile.errorString().toStdString(),
                 ExitBadArguments);
@@ -123,7 +119,7 @@ int RunSweep(const QStringList& arguments, std::ostream& out, std::ostream& err,
   if (auto problem = CheckExperiment(e)) return Fail(err, experimentName + ": " + *problem, ExitBadArguments);
 
   ResultsFile results;
-  if (auto problem = results.Open(options.OutPath, ResultsHeader(e), options.Resume)) {
+  if (auto problem = results.Open(QString::fromStdString(options.OutPath), ResultsHeader(e), options.Resume)) {
     return Fail(err, *problem, ExitBadArguments);
   }
   std::vector<int64_t> pending;
@@ -146,7 +142,7 @@ int RunSweep(const QStringList& arguments, std::ostream& out, std::ostream& err,
     }
     if (!results.Append(finished.Row)) {
       progress.Clear();
-      status = Fail(err, "--out: writing '" + options.OutPath.toStdString() + "' failed", ExitWriteFailed);
+      status = Fail(err, "--out: writing '" + options.OutPath + "' failed", ExitWriteFailed);
       return false;
     }
     if (!finished.Messages.empty()) {

@@ -4,14 +4,14 @@
 #pragma once
 
 #include <ostream>
-
-#include <QStringList>
+#include <string>
+#include <vector>
 
 namespace keldor::sweep {
 
 // Runs keldor-sweep with the given arguments (program name first); the
 // summary goes to `out`, messages and errors to `err`, and a progress bar too
 // when `errIsTerminal`. Returns keldor-headless's exit statuses.
-int RunSweep(const QStringList& arguments, std::ostream& out, std::ostream& err, bool errIsTerminal);
+int RunSweep(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& err, bool errIsTerminal);
 
 }  // namespace keldor::sweep

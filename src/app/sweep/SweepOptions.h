@@ -1,18 +1,17 @@
-// The command line of keldor-sweep.
+// The command line of keldor-sweep, described as keldor-headless's is.
 #pragma once
 
 #include <cstdint>
-
-#include <QString>
-#include <QStringList>
+#include <string>
+#include <vector>
 
 namespace keldor::sweep {
 
 inline constexpr int MaxJobs = 1024;
 
 struct SweepOptions {
-  QString ExperimentPath;
-  QString OutPath = "results.csv";
+  std::string ExperimentPath;
+  std::string OutPath = "results.csv";
   int Jobs = 1;
   int64_t ShardIndex = 1;  // this shard, from 1
   int64_t ShardCount = 1;
@@ -20,14 +19,14 @@ struct SweepOptions {
 };
 
 struct ParsedSweepArguments {
-  enum class Outcome { Run, Help, Error };
+  enum class Outcome { Run, Help, Version, Error };
   Outcome Result = Outcome::Error;
   SweepOptions Options;
-  QString Message;  // the help text, or the error naming the bad argument
+  std::string Message;  // the help text, the version line, or the error naming the bad argument
 };
 
 // Parses the full argument list (program name first). --jobs defaults to
 // `cores`.
-ParsedSweepArguments ParseSweepArguments(const QStringList& arguments, int cores);
+ParsedSweepArguments ParseSweepArguments(const std::vector<std::string>& arguments, int cores);
 
 }  // namespace keldor::sweep

@@ -9,5 +9,6 @@
 
 int main(int argc, char* argv[]) {
   QCoreApplication app(argc, argv);
-  return keldor::sweep::RunSweep(QCoreApplication::arguments(), std::cout, std::cerr, isatty(STDERR_FILENO) != 0);
+  return keldor::sweep::RunSweep(std::vector<std::string>(argv, argv + argc), std::cout, std::cerr,
+                                 isatty(STDERR_FILENO) != 0);
 }

@@ -21,10 +21,10 @@ namespace {
 
 // The world BuildWorld makes from a command line, with the clock the tests seed.
 struct Built {
-  explicit Built(QStringList arguments) : clock(3) {
-    arguments.prepend("keldor-headless");
+  explicit Built(std::vector<std::string> arguments) : clock(3) {
+    arguments.insert(arguments.begin(), "keldor-headless");
     const ParsedArguments p = ParseHeadlessArguments(arguments);
-    EXPECT_EQ(p.Result, ParsedArguments::Outcome::Run) << p.Message.toStdString();
+    EXPECT_EQ(p.Result, ParsedArguments::Outcome::Run) << p.Message;
     problem = BuildWorld(simulation, window, p.Options);
   }
   VirtualClock clock;

@@ -13,8 +13,9 @@ namespace keldor::headless {
 
 struct InProcessRun {
   explicit InProcessRun(QStringList arguments) {
-    arguments.prepend("keldor-headless");
-    status = RunHeadless(arguments, out, err);
+    std::vector<std::string> list{"keldor-headless"};
+    for (const QString& argument : arguments) list.push_back(argument.toStdString());
+    status = RunHeadless(list, out, err);
   }
   int status = -1;
   std::ostringstream out;
