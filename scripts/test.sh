@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Builds Keldor and runs every test twice: an optimised build (whose Debian
-# package is then made and checked, and the golden runs in the WebAssembly
-# engine), then a build with AddressSanitizer and
-# UndefinedBehaviorSanitizer; then runs the fuzz
+# package is then made and checked, the golden runs in the WebAssembly
+# engine, and the browser edition's tests in headless Chromium), then a
+# build with AddressSanitizer and UndefinedBehaviorSanitizer; then runs the fuzz
 # targets, built with clang, for under a minute in all. Installs what it needs.
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -22,6 +22,10 @@ bash scripts/check-package.sh "$deb" build
 
 echo "== WebAssembly engine: the golden runs under node =="
 bash web/batch/check-golden.sh
+
+echo "== browser edition (WebAssembly, headless Chromium) =="
+bash scripts/build-web.sh
+KELDOR_HEADLESS=$PWD/build/bin/keldor-headless node --test web/tests/
 
 echo "== sanitizer build (ASan + UBSan) =="
 cmake -S . -B build-asan -G Ninja -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG="-g -O1" \
