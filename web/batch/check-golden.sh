@@ -7,7 +7,7 @@ cd "$(dirname "$0")/../.."
 build=${1:-build-web}
 # Emscripten's JavaScript optimizer needs Debian's node modules (acorn).
 export NODE_PATH=/usr/share/nodejs
-emcmake cmake -S web -B "$build" -G Ninja >/dev/null
+emcmake cmake -S web -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release >/dev/null
 cmake --build "$build" --target keldor-batch
 status=0
 for name in $(grep -E '^[a-z0-9-]+:' tests/golden/scenarios.txt | cut -d: -f1); do
