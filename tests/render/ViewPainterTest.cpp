@@ -9,7 +9,6 @@
 #include <tuple>
 
 #include "window/WindowState.h"
-#include "model/Numeric.h"
 #include "render/ViewPainter.h"
 #include "sim/Tick.h"
 #include "support/PaintFrame.h"

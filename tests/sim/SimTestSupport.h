@@ -4,9 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
-#include <vector>
-
 #include "model/World.h"
 #include "model/WorldCreation.h"
 #include "sim/Tick.h"

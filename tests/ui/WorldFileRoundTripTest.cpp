@@ -12,16 +12,12 @@
 #include "model/Random.h"
 #include "ui/ChartsWindow.h"
 #include "ui/MainWindow.h"
-#include "window/MessageBox.h"
+#include "support/RecordingMessageBox.h"
 
 namespace keldor {
-namespace {
+using testing::RecordingMessageBox;
 
-class RecordingMessageBox : public MessageBox {
- public:
-  void Show(const std::string& text) override { shown.push_back(text); }
-  std::vector<std::string> shown;
-};
+namespace {
 
 // Runs keldor-headless; fails the test on a non-zero exit.
 void RunBatch(const QStringList& arguments) {

@@ -69,6 +69,7 @@ TEST_F(PickReportTest, AnAntIsFollowedAcrossRenumberingUntilItDies) {
   Ant& ant = *const_cast<Ant*>(LivingAnt(world, pick));
   ant.Load = 0;
   EXPECT_EQ(ReportPick(world, pick).Lines[1].second, "searching for food");
+  EXPECT_EQ(ReportPick(world, pick).Lines[2].second, "nothing");
   nest.X = 30;  // the head (30, 34) lies inside the disc
   nest.Y = 34;
   EXPECT_EQ(ReportPick(world, pick).Lines[1].second, "at the nest");

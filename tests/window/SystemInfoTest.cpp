@@ -6,7 +6,7 @@
 #include <tuple>
 #include <utility>
 
-#include "window/MessageBox.h"
+#include "support/RecordingMessageBox.h"
 #include "window/SplashCounter.h"
 
 namespace keldor {
@@ -57,11 +57,6 @@ struct FakeStarter : ProgramStarter {
   std::vector<std::string> started;
 };
 
-struct RecordingMessages : MessageBox {
-  void Show(const std::string& text) override { shown.push_back(text); }
-  std::vector<std::string> shown;
-};
-
 const std::string PathKey = "SOFTWARE\\Microsoft\\Shared Tools\\MSINFO";
 const std::string FolderKey = "SOFTWARE\\Microsoft\\Shared Tools Location";
 
@@ -103,7 +98,7 @@ TEST(SystemInfoTest, StartsTheToolFromEitherKeyOrShowsTheMessage) {
     reg.Put(c.key, c.name, {RegString, c.value});
     FakeStarter starter;
     std::tie(starter.existing, starter.startWorks) = std::tie(c.existing, c.startWorks);
-    RecordingMessages messages;
+    testing::RecordingMessageBox messages;
     StartSysInfo(reg, starter, messages);
     EXPECT_EQ(starter.started, c.started) << c.key << " " << c.value;
     EXPECT_EQ(messages.shown, c.shown) << c.key << " " << c.value;
