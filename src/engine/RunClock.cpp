@@ -13,22 +13,26 @@ double RunClock::SecondsSinceMidnight() {
 void RunClock::FollowTimeOfDay() {
   stepped_.reset();
   seed_.reset();
+  pinned_ = false;
 }
 
 void RunClock::StepFromTimeOfDay() {
   stepped_ = VirtualClock::StartingAt(timeOfDay_.SecondsSinceMidnight());
   seed_.reset();
+  pinned_ = false;
 }
 
 void RunClock::StepFromSeed(uint64_t seed) {
   stepped_ = VirtualClock(seed);
   seed_ = seed;
+  pinned_ = true;
 }
 
 void RunClock::StepFrom(double secondsSinceMidnight, std::optional<uint64_t> seed) {
   stepped_ = VirtualClock::StartingAt(0);
   stepped_->SetNow(secondsSinceMidnight);
   seed_ = seed;
+  pinned_ = true;
 }
 
 std::optional<double> RunClock::SteppedTime() const {

@@ -35,6 +35,8 @@ class RunClock : public Clock {
   // The seed of the stepped clock, if it was started from one.
   std::optional<uint64_t> Seed() const { return seed_; }
   bool Steps() const { return stepped_.has_value(); }
+  // The stepped clock started from a seed or a saved time, not from the time of day.
+  bool Pinned() const { return pinned_; }
   // The stepped clock's next read; none on the time of day.
   std::optional<double> SteppedTime() const;
 
@@ -47,6 +49,7 @@ class RunClock : public Clock {
   std::optional<VirtualClock> stepped_;
   std::optional<VirtualClock> atTickStart_;
   std::optional<uint64_t> seed_;
+  bool pinned_ = false;
 };
 
 }  // namespace keldor

@@ -10,6 +10,21 @@ namespace keldor {
 Simulation::Simulation(Clock* timeOfDay)
     : clock_(timeOfDay != nullptr ? *timeOfDay : systemTime_), random_(clock_), context_{world_, random_, *this} {}
 
+void Simulation::ChooseClock(bool normalSpeed) {
+  if (clock_.Pinned()) return;
+  if (normalSpeed) clock_.FollowTimeOfDay();
+  else clock_.StepFromTimeOfDay();
+}
+
+void Simulation::ClockForNew(std::optional<uint64_t> seed, bool normalSpeed) {
+  if (seed) {
+    clock_.StepFromSeed(*seed);
+    return;
+  }
+  clock_.FollowTimeOfDay();
+  ChooseClock(normalSpeed);
+}
+
 void Simulation::New(const NewWorldInputs& inputs) {
   CreateWorld(world_, random_, inputs);
   ticks_ = 0;

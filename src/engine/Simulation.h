@@ -48,6 +48,12 @@ class Simulation : private TickEvents {
   std::optional<uint64_t> Seed() const { return clock_.Seed(); }
   // The clock steps: from a seed, from the time of day, or from a loaded world.
   bool ClockSteps() const { return clock_.Steps(); }
+  // The clock for a run speed: a world made with a seed or loaded with a
+  // stepped clock keeps its clock; otherwise the time of day at normal speed,
+  // and at the other speeds a clock stepped from the time of day now.
+  void ChooseClock(bool normalSpeed);
+  // The clock New runs on: started from the seed, else chosen for the speed.
+  void ClockForNew(std::optional<uint64_t> seed, bool normalSpeed);
 
   // New's world part (CreateWorld) on the clock as it is; the tick count
   // starts again from 0.

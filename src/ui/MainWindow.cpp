@@ -271,8 +271,7 @@ void MainWindow::OpenWorldFile(const QString& path) {
     return;
   }
   TakeOverWindow(window_, world_, std::move(loaded));
-  keepClock_ = simulation_.ClockSteps();
-  ChooseClock();
+  simulation_.ChooseClock(speed_ == RunSpeed::Normal);
   chart_.Clear();
   pick_ = {};
   DoResize();  // the loaded viewport takes this window's terrain size

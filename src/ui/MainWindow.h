@@ -120,8 +120,6 @@ class MainWindow : public QMainWindow {
 
   void BuildRunMenus(QMenu* file, QMenu* tools);
   void StartNewWorld(std::optional<uint64_t> seed);
-  // The clock for the speed, unless the run keeps its own.
-  void ChooseClock();
   void AskSeed();
   void TimerFired();
   // Runs one tick drawing on `painter`, with the run clock, tick count and
@@ -148,8 +146,6 @@ class MainWindow : public QMainWindow {
   World& world_;
   WindowState window_;
   PopulationLimitNotice populationLimit_{simulation_.TheWorld(), window_, messages_};
-  // The stepped clock came from a seed or a world file: every speed keeps it.
-  bool keepClock_ = false;
   WindowLayout layout_;
   TwipScale scale_;
   std::unique_ptr<Registry> registry_;

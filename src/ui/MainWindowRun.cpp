@@ -82,25 +82,14 @@ void MainWindow::BuildRunMenus(QMenu* file, QMenu* tools) {
 
 void MainWindow::SetSpeed(RunSpeed speed) {
   speed_ = speed;
-  ChooseClock();
+  simulation_.ChooseClock(speed_ == RunSpeed::Normal);
   mnuSpeed_[static_cast<size_t>(speed)]->setChecked(true);
   ShowControls();
   ShowRun();
 }
 
-void MainWindow::ChooseClock() {
-  // A world made with a seed or opened from a file keeps its stepped clock;
-  // otherwise 1x reads the time of day and the other speeds step from it as
-  // it is now.
-  if (keepClock_) return;
-  if (speed_ == RunSpeed::Normal) simulation_.FollowTimeOfDay();
-  else simulation_.StepFromTimeOfDay();
-}
-
 void MainWindow::StartNewWorld(std::optional<uint64_t> seed) {
-  keepClock_ = seed.has_value();
-  if (seed) simulation_.StepFromSeed(*seed);
-  else ChooseClock();
+  simulation_.ClockForNew(seed, speed_ == RunSpeed::Normal);
   NewFromOptions(simulation_, window_);
   chart_.Clear();
   pick_ = {};

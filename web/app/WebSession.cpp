@@ -33,21 +33,10 @@ WebSession::WebSession(int mapPixels)
 
 double WebSession::Now() const { return emscripten_get_now() / 1000; }
 
-void WebSession::ChooseClock() {
-  // As on the desktop: a world made with a seed or opened from a file keeps
-  // its stepped clock; otherwise 1x reads the time of day and the other
-  // speeds step from it as it is now.
-  if (keepClock_) return;
-  if (speed_ == RunSpeed::Normal) simulation_.FollowTimeOfDay();
-  else simulation_.StepFromTimeOfDay();
-}
-
 void WebSession::StartNewWorld(std::optional<uint64_t> seed) {
   if (simulation_.TickInProgress()) return;
   CollapsePalette(window_);
-  keepClock_ = seed.has_value();
-  if (seed) simulation_.StepFromSeed(*seed);
-  else ChooseClock();
+  simulation_.ClockForNew(seed, speed_ == RunSpeed::Normal);
   NewFromOptions(simulation_, window_);
   chart_.Clear();
   pick_ = {};
@@ -70,7 +59,7 @@ void WebSession::Step() {
 
 void WebSession::SetSpeed(RunSpeed speed) {
   speed_ = speed;
-  ChooseClock();
+  simulation_.ChooseClock(speed_ == RunSpeed::Normal);
 }
 
 int WebSession::TimerIntervalMs() const {
@@ -209,8 +198,7 @@ std::string WebSession::OpenText(const std::string& text) {
   if (auto fault = simulation_.LoadText(text, loaded)) return *fault;
   options_.reset();
   TakeOverWindow(window_, world_, std::move(loaded));
-  keepClock_ = simulation_.ClockSteps();
-  ChooseClock();
+  simulation_.ChooseClock(speed_ == RunSpeed::Normal);
   chart_.Clear();
   pick_ = {};
   // The loaded viewport takes this page's terrain size.

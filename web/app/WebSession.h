@@ -113,7 +113,6 @@ class WebSession {
   void AdvanceTick();
   void RunFastestSlice(double now);
   void ShowTick();
-  void ChooseClock();
   void StartNewWorld(std::optional<uint64_t> seed);
   double Now() const;
 
@@ -127,7 +126,6 @@ class WebSession {
   ViewPainter painter_;
   NullPainter noDrawing_;
   RunSpeed speed_ = RunSpeed::Normal;
-  bool keepClock_ = false;
   FastestPacer pacer_;
   TickRate rate_;
   RunChart chart_;
