@@ -102,8 +102,9 @@ int RunHeadless(const std::vector<std::string>& arguments, std::ostream& out, st
     return Fail(err, "interrupted after tick " + std::to_string(lastRun) + "; no file was replaced", ExitInterrupted + signal);
   }
 
-  if (QSaveFile* json = files.Json()) json->write(QByteArray::fromStdString(simulation.SaveText(window)));
-  if (QSaveFile* png = files.Png()) views->Frame().save(png, "PNG");
+  // A failed write is reported by Commit, which then replaces nothing.
+  if (ReplacingFile* json = files.Json()) json->Write(simulation.SaveText(window));
+  if (ReplacingFile* png = files.Png()) WritePng(*png, views->Frame());
   if (const auto fault = files.Commit()) return Fail(err, *fault, ExitWriteFailed);
   PrintSummary(out, world, options.Ticks, elapsed.count());
   return ExitOk;
