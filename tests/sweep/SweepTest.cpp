@@ -246,5 +246,32 @@ TEST_F(SweepTest, AFullDiskFailsTheSweepAndResumeCompletesIt) {
   EXPECT_EQ(ReadAll(Path("t.csv")), full);
 }
 
+// merge joins shard tables into the single-machine table; a missing shard's
+// runs are named, and a table of another experiment is refused.
+TEST_F(SweepTest, MergeJoinsShardsCheckingEveryRunOnceAndOneExperiment) {
+  const QByteArray single = RunTable("all.csv", {});
+  RunTable("s1.csv", {"--shard", "1/3"});
+  RunTable("s2.csv", {"--shard", "2/3"});
+  RunTable("s3.csv", {"--shard", "3/3"});
+  const auto merge = [&](const QStringList& tables) {
+    std::vector<std::string> list{"keldor-sweep", "merge", Path("m.csv").toStdString()};
+    for (const QString& table : tables) list.push_back(Path(table).toStdString());
+    std::ostringstream out, err;
+    const int status = RunSweep(list, out, err, false);
+    return std::pair{status, err.str()};
+  };
+  EXPECT_EQ(merge({"s3.csv", "s1.csv", "s2.csv"}).first, 0);
+  EXPECT_EQ(ReadAll(Path("m.csv")), single);
+  QFile::remove(Path("m.csv"));
+  // Shard 2 of 3 holds runs 1, 4, 7 and 10.
+  EXPECT_EQ(merge({"s1.csv", "s3.csv"}), std::pair(2, std::string("keldor-sweep merge: 4 of 12 runs are missing: 1, 4, 7, 10\n")));
+  EXPECT_NE(merge({"s1.csv", "s2.csv", "s3.csv", "s1.csv"}).second.find("holds run 0, which an earlier row holds"),
+            std::string::npos);
+  Write(experiment, QByteArray(GridExperiment).replace("\"ticks\": 40", "\"ticks\": 30"));
+  RunTable("other.csv", {"--shard", "2/3"});
+  EXPECT_NE(merge({"s1.csv", "other.csv", "s3.csv"}).second.find("belongs to another experiment than"), std::string::npos);
+  EXPECT_FALSE(QFile::exists(Path("m.csv")));
+}
+
 }  // namespace
 }  // namespace keldor::sweep

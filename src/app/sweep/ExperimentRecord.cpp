@@ -9,7 +9,7 @@ Json ExperimentRecord(const Experiment& experiment) {
   Json vary = Json::object();
   for (const VariedOption& option : experiment.Vary) {
     Json values = Json::array();
-    for (const VariedValue& value : option.Values) values.push_back(value.Text);
+    for (const VariedValue& value : option.Values) values.push_back(value.Value);
     vary[option.Name] = values;
   }
   return Json{{"options", experiment.Options}, {"vary", vary}, {"repetitions", experiment.Repetitions},

@@ -1,7 +1,8 @@
 // Which experiment a results table belongs to: the checked experiment as one
 // line of JSON, kept beside the table in TABLE.experiment (the table itself
-// stays a plain CSV file). --resume and merge compare it key by key and name
-// the keys that differ.
+// stays a plain CSV file). The record is itself an experiment file, with
+// every varied value listed. --resume and merge compare it key by key and
+// name the keys that differ.
 #pragma once
 
 #include <optional>
@@ -11,8 +12,8 @@
 
 namespace keldor::sweep {
 
-// The record of an experiment: its shared options, varied values (as the
-// table shows them), repetitions, seed, ticks and series interval.
+// The record of an experiment: its shared options, varied values,
+// repetitions, seed, ticks and series interval.
 Json ExperimentRecord(const Experiment& experiment);
 
 // The file beside a table that holds its experiment's record.

@@ -15,6 +15,7 @@
 #include "app/headless/HeadlessRun.h"
 #include "app/headless/ReplacingFile.h"
 #include "app/sweep/ExperimentCheck.h"
+#include "app/sweep/MergeTables.h"
 #include "app/sweep/ProgressBar.h"
 #include "app/sweep/ResultsFile.h"
 #include "app/sweep/SweepOptions.h"
@@ -111,6 +112,9 @@ void RunPool(const Experiment& experiment, const std::string& outPath, const std
 }  // namespace
 
 int RunSweep(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& err, bool errIsTerminal) {
+  if (arguments.size() >= 2 && arguments[1] == "merge") {
+    return MergeTables({arguments.begin() + 2, arguments.end()}, out, err);
+  }
   const ParsedSweepArguments parsed =
       ParseSweepArguments(arguments, static_cast<int>(std::thread::hardware_concurrency()));
   if (parsed.Result == ParsedSweepArguments::Outcome::Help || parsed.Result == ParsedSweepArguments::Outcome::Version) {
