@@ -146,6 +146,10 @@ TEST_F(SweepTest, BadExperimentsAreRefusedNamingTheKeyOrValue) {
     EXPECT_NE(sweep.err.str().find(c.message), std::string::npos) << c.experiment << "\n" << sweep.err.str();
     EXPECT_FALSE(QFile::exists(Path("bad.csv"))) << c.experiment;
   }
+  // A device is no experiment: refused before it is read, not read until memory runs out.
+  const Sweep device("/dev/zero", {"--out", Path("bad.csv")});
+  EXPECT_EQ(device.status, 2);
+  EXPECT_NE(device.err.str().find("'/dev/zero': not a regular file"), std::string::npos) << device.err.str();
 }
 
 TEST(ExperimentTest, RangesKeepTheirDecimalsAndVaryTheLastKeyFastest) {

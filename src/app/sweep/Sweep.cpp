@@ -30,6 +30,8 @@ using headless::ExitWriteFailed;
 namespace {
 
 constexpr const char* ProgramName = "keldor-sweep";
+// An experiment file is a few lines; a larger file is refused before it is read.
+constexpr qint64 MaxExperimentBytes = qint64{16} << 20;
 
 int Fail(std::ostream& err, const std::string& message, int status) {
   err << ProgramName << ": " << message << std::endl;
@@ -126,6 +128,14 @@ int RunSweep(const std::vector<std::string>& arguments, std::ostream& out, std::
 
   const std::string experimentName = "'" + options.ExperimentPath + "'";
   QFile experimentFile(QString::fromStdString(options.ExperimentPath));
+  // A device or FIFO could block or never end; a huge file is no experiment.
+  if (auto problem = headless::NotARegularFile(options.ExperimentPath)) {
+    return Fail(err, "cannot read " + experimentName + ": " + *problem, ExitBadArguments);
+  }
+  if (experimentFile.size() > MaxExperimentBytes) {
+    return Fail(err, "cannot read " + experimentName + ": larger than " + std::to_string(MaxExperimentBytes) + " bytes",
+                ExitBadArguments);
+  }
   if (!experimentFile.open(QIODevice::ReadOnly)) {
     return Fail(err, "cannot read " + experimentName + ": " + experimentFile.errorString().toStdString(),
                 ExitBadArguments);
