@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include <filesystem>
+#include <string_view>
 #include <utility>
 
 #include <QBuffer>
@@ -32,11 +33,13 @@ bool SameFile(const std::string& a, const std::string& b) {
          std::filesystem::equivalent(a, b, error);
 }
 
-// The first two of the named files that are one, as "--a and --b".
+// The message for the first two of the named files that are one. A world
+// file may replace the world it was loaded from: it is read whole first.
 std::optional<std::string> SharedName(const std::pair<const char*, std::string> (&names)[5]) {
   for (size_t i = 0; i < std::size(names); ++i) {
     for (size_t j = i + 1; j < std::size(names); ++j) {
-      if (SameFile(names[i].second, names[j].second)) {
+      const bool worldReplacesItself = std::string_view(names[i].first) == "load" && std::string_view(names[j].first) == "json";
+      if (!worldReplacesItself && SameFile(names[i].second, names[j].second)) {
         return std::string("--") + names[j].first + ": names the same file as --" + names[i].first + " ('" +
                names[j].second + "')";
       }
