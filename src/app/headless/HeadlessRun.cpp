@@ -99,7 +99,9 @@ int RunHeadless(const std::vector<std::string>& arguments, std::ostream& out, st
   const std::chrono::duration<double> elapsed = std::chrono::steady_clock::now() - start;
   if (frameFault) return Fail(err, *frameFault, ExitWriteFailed);
   if (const int signal = InterruptingSignal()) {
-    return Fail(err, "interrupted after tick " + std::to_string(lastRun) + "; no file was replaced", ExitInterrupted + signal);
+    // Frames are written as their ticks run; the other files only at the end.
+    const std::string replaced = files.WritesFrames() ? "only the frames up to it were written" : "no file was replaced";
+    return Fail(err, "interrupted after tick " + std::to_string(lastRun) + "; " + replaced, ExitInterrupted + signal);
   }
 
   // A failed write is reported by Commit, which then replaces nothing.
