@@ -86,8 +86,8 @@ int GridSizeFromText(const std::string& text) {
 
 void CreateWorld(World& world, RandomSource& random, const NewWorldInputs& inputs) {
   WorldSettings& s = world.Settings;
-  s.ScaleX = 10;
-  s.ScaleY = 10;
+  s.ScaleX = WorldScale;
+  s.ScaleY = WorldScale;
   ReadGridSize(world, inputs);
   s.CellSize = MapBoxSize / s.GridX;
   world.Walls.Clear();
@@ -186,8 +186,8 @@ constexpr int StartUpTraceSliderMax = 1000;
 }  // namespace
 
 void StartUpSettings(WorldSettings& s) {
-  s.ScaleX = 10;
-  s.ScaleY = 10;
+  s.ScaleX = WorldScale;
+  s.ScaleY = WorldScale;
   if (s.GridX == 0) s.GridX = 30;
   s.CellSize = MapBoxSize / s.GridX;
   s.SpreadFoodAmount = Pi * ((s.CellSize / 4) * (s.CellSize / 4)) * s.ScaleX;
@@ -196,7 +196,7 @@ void StartUpSettings(WorldSettings& s) {
 
 void LoadDefaults(WorldSettings& s) {
   s.AntsPerNest = 30;
-  s.AntSizeMm = 3.0;
+  s.AntSizeMm = DefaultAntSizeMm;
   s.AntRed = 150;
   s.AntGreen = 100;
   s.AntBlue = 70;

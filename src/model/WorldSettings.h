@@ -49,4 +49,22 @@ void LoadDefaults(WorldSettings& settings);
 // turns.
 inline constexpr double MapBoxSize = 2000;
 
+// The options dialog's slider ranges as the user sees them; a world file's
+// values are held to them too.
+struct SliderRange {
+  int Min;
+  int Max;
+};
+inline constexpr SliderRange LifeSpanRange{1, 100};
+inline constexpr SliderRange FoodRateRange{0, 100};
+inline constexpr SliderRange TraceRange{1, 500};
+
+// Ant size taken over while the dialog's box holds no number.
+inline constexpr double DefaultAntSizeMm = 3.0;
+// Body units (twips) per millimetre.
+inline constexpr double TwipsPerMm = 56.7;
+
+// The world-to-body-unit factors start-up and New set (ScaleX, ScaleY).
+inline constexpr double WorldScale = 10;
+
 }  // namespace keldor

@@ -26,21 +26,8 @@ class Simulation;
 
 enum class ColourBox { Red = 0, Green = 1, Blue = 2 };
 
-// Slider ranges as the user sees them.
-struct SliderRange {
-  int Min;
-  int Max;
-};
-inline constexpr SliderRange LifeSpanRange{1, 100};
-inline constexpr SliderRange FoodRateRange{0, 100};
-inline constexpr SliderRange TraceRange{1, 500};
-
 // Population text for letters or an empty box.
 inline constexpr int DefaultAntsPerNestText = 30;
-// Ant size taken over while its box holds no number.
-inline constexpr double DefaultAntSizeMm = 3.0;
-// Body units (twips) per millimetre.
-inline constexpr double TwipsPerMm = 56.7;
 
 class OptionsForm {
  public:

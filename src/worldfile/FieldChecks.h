@@ -2,6 +2,7 @@
 // them; the reader refuses a value that fails one, naming the field.
 #pragma once
 
+#include <cmath>
 #include <cstdint>
 
 #include "model/Numeric.h"
@@ -24,6 +25,10 @@ struct NumberCheck {
 
 inline constexpr NumberCheck AnyNumber{[](double) { return true; }, ""};
 inline constexpr NumberCheck AboveZero{[](double v) { return v > 0; }, "not above 0"};
+inline constexpr NumberCheck AtLeastZero{[](double v) { return v >= 0; }, "below 0"};
+// The zoom buttons step by 1 from New's zoom and never go below 2.
+inline constexpr NumberCheck ZoomValue{[](double v) { return v == std::trunc(v) && v >= 2 && v <= Int16Max; },
+                                       "not a whole number from 2 to 32767, a zoom the zoom buttons reach"};
 
 // What an ant's or a nest's Serial is: the identity of a live record, unique
 // in the file, or the spare slot's leftover (a copy of a live one, or 0).

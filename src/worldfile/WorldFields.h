@@ -7,6 +7,7 @@
 // comes before it.
 #pragma once
 
+#include <cmath>
 #include <concepts>
 #include <type_traits>
 #include <utility>
@@ -23,15 +24,42 @@ namespace keldor::worldfields {
 template <class T, class Record>
 concept Is = std::same_as<std::remove_const_t<T>, Record>;
 
+// The longest ant the options dialog keeps: the radius of a new nest, shown
+// with one decimal (so up to 0.05 mm more), or the size it takes over while
+// its box holds no number.
+inline double LongestAntMm(double cellSize) {
+  const double nestRadiusMm = cellSize / 2 * WorldScale / TwipsPerMm;
+  return nestRadiusMm + 0.05 > DefaultAntSizeMm ? nestRadiusMm + 0.05 : DefaultAntSizeMm;
+}
+
 // What the records below the world need from it.
 struct Bounds {
   int16_t GridX = 0;
   int16_t GridY = 0;
+  double CellSize = 0;
+  double FoodCapacity = 0;  // of one cell
   int AntsInNests = 0;  // so far, checked against the 16-bit population
   // A cell of the world (1..Grid) or, with the ring, 0..Grid+1.
   Range Columns(bool ring) const { return {ring ? 0 : 1, GridX + (ring ? 1 : 0)}; }
   Range Rows(bool ring) const { return {ring ? 0 : 1, GridY + (ring ? 1 : 0)}; }
+  // A point of the world, its far edges included.
+  bool InsideX(double x) const { return x >= 0 && x <= GridX * CellSize; }
+  bool InsideY(double y) const { return y >= 0 && y <= GridY * CellSize; }
+  bool HoldsFood(double amount) const { return amount >= 0 && amount <= FoodCapacity; }
+  double LongestAntTwips() const { return LongestAntMm(CellSize) * TwipsPerMm; }
 };
+
+// The rules a world file's values follow beyond their fields' types, as
+// problems named in a refusal.
+inline constexpr const char* OutsideWorld = "outside the world";
+inline constexpr const char* NotFoodOfACell = "not from 0 to a cell's food capacity";
+
+inline constexpr Range ColourComponentRange{0, 255};
+inline constexpr Range LifeSpanValues{LifeSpanRange.Min, LifeSpanRange.Max};
+inline constexpr Range TraceValues{TraceRange.Min, TraceRange.Max};
+// A trace slider the dialog never moved reads 0.
+inline constexpr Range TraceSettingValues{0, TraceRange.Max};
+
 
 // Making room for items read: done on a reader's records only.
 template <class T>
@@ -82,11 +110,13 @@ void Describe(Io& io, W& wall, const Bounds& bounds) {
 }
 
 template <class Io, Is<Cell> C>
-void Describe(Io& io, C& cell, const Bounds& bounds) {
-  io.Field("X", cell.X);
-  io.Field("Y", cell.Y);
+void Describe(Io& io, C& cell, int16_t x, int16_t y, const Bounds& bounds) {
+  // New numbers every cell of the world with its column and row.
+  io.Field("X", cell.X, {x, x});
+  io.Field("Y", cell.Y, {y, y});
   io.Field("Signature", cell.Signature);
   io.Field("Food", cell.Food);
+  io.Require("Food", bounds.HoldsFood(cell.Food), NotFoodOfACell);
   io.Field("AntCount", cell.AntCount, CountRange);
   io.Field("Scent", cell.Scent);
   io.Field("Colour", cell.Colour);
@@ -99,16 +129,26 @@ void Describe(Io& io, C& cell, const Bounds& bounds) {
 template <class Io, Is<Ant> A>
 void Describe(Io& io, A& a, SerialUse use, const Bounds& bounds) {
   io.Serial("Serial", a.Serial, use);
+  // The spare slot holds leftovers a birth overwrites; the rules are a live ant's.
+  const bool live = use == SerialUse::Identity;
   io.Field("RearX", a.RearX);
   io.Field("RearY", a.RearY);
   io.Field("HeadX", a.HeadX);
+  io.Require("HeadX", !live || bounds.InsideX(a.HeadX), OutsideWorld);
   io.Field("HeadY", a.HeadY);
+  io.Require("HeadY", !live || bounds.InsideY(a.HeadY), OutsideWorld);
   // A head on the world's far edge lies in the ring's cell.
   io.Field("CellX", a.CellX, bounds.Columns(true));
   io.Field("CellY", a.CellY, bounds.Rows(true));
   io.Field("Angle", a.Angle);
   io.Field("Length", a.Length);
+  io.Require("Length", !live || (a.Length > 0 && a.Length <= bounds.LongestAntTwips()),
+             "not above 0 and at most the radius of a new nest");
+  // The rear trails the head by the body's length (in world units, Length / ScaleX).
+  const double span = std::hypot(a.HeadX - a.RearX, a.HeadY - a.RearY) * WorldScale;
+  io.Require("RearX", !live || std::fabs(span / a.Length - 1) <= 1e-9, "not the ant's length from its head");
   io.Field("Load", a.Load);
+  io.Require("Load", !live || a.Load >= 0, "below 0");
   io.Field("LifeFactor", a.LifeFactor);
   io.Field("Energy", a.Energy);
   io.Field("Colour", a.Colour);
@@ -128,8 +168,8 @@ void Describe(Io& io, N& n, Bounds& bounds) {
   io.Field("AntBodyArea", n.AntBodyArea);
   io.Field("AntUnit", n.AntUnit);
   io.Field("Colour", n.Colour);
-  io.Field("FoodStore", n.FoodStore);
-  io.Field("LifeSpan", n.LifeSpan);
+  io.Field("FoodStore", n.FoodStore, AtLeastZero);
+  io.Field("LifeSpan", n.LifeSpan, LifeSpanValues);
   const int16_t ants = io.Count("AntCount", n.AntCount());
   io.List("Ants", ants,
           [&] {
@@ -149,6 +189,7 @@ void Describe(Io& io, P& pile, const Bounds& bounds) {
   io.Field("Y", pile.Y, bounds.Rows(false));
   io.Field("SpreadBudget", pile.SpreadBudget);
   io.Field("Amount", pile.Amount);
+  io.Require("Amount", bounds.HoldsFood(pile.Amount), NotFoodOfACell);
 }
 
 template <class Io, Is<ViewScale> V>
@@ -173,25 +214,30 @@ void DescribeSettings(Io& io, W& world) {
   auto& s = world.Settings;
   io.Field("GridX", s.GridX, {MinGridSize, MaxGridSize});
   io.Field("GridY", s.GridY, {MinGridSize, MaxGridSize});
-  io.Field("CellSize", s.CellSize, AboveZero);
-  io.Field("ScaleX", s.ScaleX, AboveZero);
-  io.Field("ScaleY", s.ScaleY, AboveZero);
+  io.Field("CellSize", s.CellSize);
+  io.Require("CellSize", s.CellSize == MapBoxSize / s.GridX, "not 2000 / GridX, the cell size New makes");
+  io.Field("ScaleX", s.ScaleX);
+  io.Require("ScaleX", s.ScaleX == WorldScale, "not 10, the scale New makes");
+  io.Field("ScaleY", s.ScaleY);
+  io.Require("ScaleY", s.ScaleY == WorldScale, "not 10, the scale New makes");
   io.Constant("CellFoodCapacity", s.CellFoodCapacity());
   io.Field("SpreadFoodAmount", s.SpreadFoodAmount);
   io.Field("NestCount", world.NestCount, CountRange);
   io.Field("Population", s.Population, CountRange);
   io.Field("AntsPerNest", s.AntsPerNest, CountRange);
   io.Field("AntSizeMm", s.AntSizeMm);
-  io.Field("AntRed", s.AntRed);
-  io.Field("AntGreen", s.AntGreen);
-  io.Field("AntBlue", s.AntBlue);
+  io.Require("AntSizeMm", s.AntSizeMm > 0 && s.AntSizeMm <= LongestAntMm(s.CellSize),
+             "not above 0 and at most the radius of a new nest");
+  io.Field("AntRed", s.AntRed, ColourComponentRange);
+  io.Field("AntGreen", s.AntGreen, ColourComponentRange);
+  io.Field("AntBlue", s.AntBlue, ColourComponentRange);
   io.Field("AntColour", s.AntColour);
-  io.Field("LifeSpan", s.LifeSpan);
-  io.Field("FoodRate", s.FoodRate);
-  io.Field("FoodScentMax", s.FoodScentMax);
-  io.Field("NestScentMax", s.NestScentMax);
-  io.Field("FoodTraceSetting", s.FoodTraceSetting);
-  io.Field("NestTraceSetting", s.NestTraceSetting);
+  io.Field("LifeSpan", s.LifeSpan, LifeSpanValues);
+  io.Field("FoodRate", s.FoodRate, {FoodRateRange.Min, FoodRateRange.Max});
+  io.Field("FoodScentMax", s.FoodScentMax, TraceValues);
+  io.Field("NestScentMax", s.NestScentMax, TraceValues);
+  io.Field("FoodTraceSetting", s.FoodTraceSetting, TraceSettingValues);
+  io.Field("NestTraceSetting", s.NestTraceSetting, TraceSettingValues);
 }
 
 template <class Io, Is<World> W, Is<WindowRecord> R>
@@ -204,8 +250,9 @@ void DescribeWindow(Io& io, W& world, R& window, const Bounds& bounds) {
   io.Field("MouseHeld", window.MouseHeld);
   io.Field("AntSizeTwips", world.AntSizeTwips);
   io.Field("NestRadius", world.NestRadius);
-  io.Field("ZoomX", window.View.ZoomX, AboveZero);
-  io.Field("ZoomY", window.View.ZoomY, AboveZero);
+  io.Field("ZoomX", window.View.ZoomX, ZoomValue);
+  io.Field("ZoomY", window.View.ZoomY, ZoomValue);
+  io.Require("ZoomY", window.View.ZoomY == window.View.ZoomX, "not ZoomX: the zoom buttons change both alike");
   io.Field("AntBodyArea", world.AntBodyArea);
   io.Field("ShowOdor", window.View.ShowOdor);
   io.Field("ShowAnts", window.View.ShowAnts);
@@ -245,7 +292,9 @@ void DescribeContents(Io& io, W& world, Bounds& bounds) {
   // Column by column; none before New.
   const int64_t cells = world.HasWorld() ? int64_t{s.GridX} * s.GridY : 0;
   io.List("Cells", cells, [] {}, [&](int i) {
-    Describe(io, world.Cells(i / s.GridY + 1, i % s.GridY + 1), bounds);
+    const auto x = static_cast<int16_t>(i / s.GridY + 1);
+    const auto y = static_cast<int16_t>(i % s.GridY + 1);
+    Describe(io, world.Cells(x, y), x, y, bounds);
   });
   io.LastSerial("LastSerial", world.LastSerial);
   io.List("Nests", world.NestCount, [&] { Resize(world.Nests, world.NestCount); },
@@ -264,7 +313,8 @@ void DescribeWorldFile(Io& io, W& world, R& window, S& resume, int& version) {
   io.Field("FormatVersion", version, {version, version});
   if (io.Failed()) return;
   DescribeSettings(io, world);
-  Bounds bounds{world.Settings.GridX, world.Settings.GridY};
+  Bounds bounds{world.Settings.GridX, world.Settings.GridY, world.Settings.CellSize,
+                world.Settings.CellFoodCapacity()};
   DescribeWindow(io, world, window, bounds);
   Describe(io, resume);
   DescribeContents(io, world, bounds);

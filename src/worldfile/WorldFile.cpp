@@ -1,5 +1,6 @@
 #include "worldfile/WorldFile.h"
 
+#include <unordered_set>
 #include <vector>
 
 #include <nlohmann/json.hpp>
@@ -7,6 +8,7 @@
 #include "worldfile/FieldReader.h"
 #include "worldfile/FieldWriter.h"
 #include "worldfile/JsonText.h"
+#include "worldfile/WorldAgreement.h"
 #include "worldfile/WorldFields.h"
 
 namespace keldor {
@@ -35,6 +37,11 @@ class DocumentBuilder : public nlohmann::detail::json_sax_dom_parser<nlohmann::j
   bool string(std::string& v) { return Value() && Base::string(v); }
   bool key(std::string& v) {
     levels_.back().Key = v;
+    // With a key given twice the last would win unseen.
+    if (!levels_.back().Keys.insert(v).second) {
+      fault_ = ValuePath() + ": given twice";
+      return false;
+    }
     return Base::key(v);
   }
   bool start_object(std::size_t size) { return Enter(false) && Base::start_object(size); }
@@ -53,6 +60,7 @@ class DocumentBuilder : public nlohmann::detail::json_sax_dom_parser<nlohmann::j
   struct Level {
     bool IsList = false;
     std::string Key;  // of the value being parsed in an object
+    std::unordered_set<std::string> Keys;  // met so far in an object
     size_t Items = 0;  // values begun in a list
   };
 
@@ -66,7 +74,7 @@ class DocumentBuilder : public nlohmann::detail::json_sax_dom_parser<nlohmann::j
       fault_ = "not a world state: nested deeper than " + std::to_string(MaxDepth) + " levels";
       return false;
     }
-    levels_.push_back({isList, {}, 0});
+    levels_.push_back({isList, {}, {}, 0});
     return true;
   }
   bool Leave() {
@@ -114,7 +122,7 @@ std::optional<std::string> ReadWorldFileText(std::string_view text, World& world
   int version = WorldFileFormatVersion;
   worldfields::DescribeWorldFile(reader, world, window, resume, version);
   if (reader.Failed()) return reader.Error();
-  return std::nullopt;
+  return FindDisagreement(world);
 }
 
 }  // namespace keldor

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/resource.h>
+
+#include <csignal>
 #include <sstream>
 
 #include <QFile>
@@ -10,6 +13,7 @@
 #include "Version.h"
 #include "app/headless/HeadlessRun.h"
 #include "app/sweep/Experiment.h"
+#include "app/sweep/ResultsFile.h"
 #include "app/sweep/SweepOptions.h"
 
 namespace keldor::sweep {
@@ -98,6 +102,10 @@ TEST_F(SweepTest, ResumeCompletesAnInterruptedTableWithoutRepeatingRuns) {
   // Interrupted after five rows and half of the sixth.
   const qsizetype sixthRow = table.indexOf("\n5,") + 1;
   Write(Path("cut.csv"), table.left(sixthRow + 10));
+  Write(Path("cut.csv.experiment"), ReadAll(Path("full.csv.experiment")));
+  for (const char* run : {"0", "1", "2", "3", "4"}) {
+    QFile::copy(Path("full-run-00000%1.csv").arg(run), Path("cut-run-00000%1.csv").arg(run));
+  }
   const Sweep refused(experiment, {"--out", Path("cut.csv")});
   EXPECT_EQ(refused.status, 2);
   const Sweep resumed(experiment, {"--out", Path("cut.csv"), "--resume", "--jobs", "2"});
@@ -138,6 +146,10 @@ TEST_F(SweepTest, BadExperimentsAreRefusedNamingTheKeyOrValue) {
     EXPECT_NE(sweep.err.str().find(c.message), std::string::npos) << c.experiment << "\n" << sweep.err.str();
     EXPECT_FALSE(QFile::exists(Path("bad.csv"))) << c.experiment;
   }
+  // A device is no experiment: refused before it is read, not read until memory runs out.
+  const Sweep device("/dev/zero", {"--out", Path("bad.csv")});
+  EXPECT_EQ(device.status, 2);
+  EXPECT_NE(device.err.str().find("'/dev/zero': not a regular file"), std::string::npos) << device.err.str();
 }
 
 TEST(ExperimentTest, RangesKeepTheirDecimalsAndVaryTheLastKeyFastest) {
@@ -168,6 +180,101 @@ TEST(SweepOptionsTest, VersionNamesTheProgramAndABadShardIsRefused) {
             std::string("keldor-sweep ") + KeldorVersion + "\n");
   EXPECT_EQ(ParseSweepArguments({"keldor-sweep", "a", "--shard", "3/2"}, 1).Message,
             "--shard: '3/2' is not I/N with 1 <= I <= N");
+}
+
+// --resume checks the table it completes: its experiment, every row, and
+// every done run's series table. The 12-run table's first rows are run 0
+// (food rate 2, 10 ants, seed 5) and run 1 (seed 6); it has 4 + 8 fields.
+TEST_F(SweepTest, ResumeRefusesAnotherExperimentAndDamagedRows) {
+  const QByteArray table = RunTable("t.csv", {});
+  const qsizetype third = table.indexOf("\n2,") + 1;
+  const QByteArray header = table.left(table.indexOf('\n') + 1), row0 = table.mid(header.size(), table.indexOf("\n1,") + 1 - header.size());
+  const std::vector<std::pair<QByteArray, std::string>> cases = {
+      {header + row0 + row0, "line 3 holds run 0 a second time"},
+      {header + "0,2,10,6" + row0.mid(8), "line 2 gives run 0 another seed than 5"},
+      {header + "0,2,10,5,40\n", "line 2 has 5 fields where the header has 12"},
+      {header + "12" + row0.mid(1), "line 2 does not start with a run number from 0 to 11"},
+      {table.left(third), ""},
+  };
+  for (const auto& [text, problem] : cases) {
+    Write(Path("t.csv"), text);
+    const Sweep resumed(experiment, {"--out", Path("t.csv"), "--resume"});
+    EXPECT_EQ(resumed.status, problem.empty() ? 0 : 2) << problem << resumed.err.str();
+    EXPECT_NE(resumed.err.str().find(problem), std::string::npos) << resumed.err.str();
+  }
+  EXPECT_EQ(ReadAll(Path("t.csv")), table);
+  // A shard's table holds only its runs: run 1 is not of shard 1 of 2.
+  const Sweep otherShard(experiment, {"--out", Path("t.csv"), "--resume", "--shard", "1/2"});
+  EXPECT_NE(otherShard.err.str().find("line 3 holds run 1, which is not of this shard"), std::string::npos);
+  // A done run whose series table is gone does not count as done.
+  QFile::remove(Path("t-run-000003.csv"));
+  const Sweep noSeries(experiment, {"--out", Path("t.csv"), "--resume"});
+  EXPECT_NE(noSeries.err.str().find("series table of run 3"), std::string::npos) << noSeries.err.str();
+  Write(experiment, QByteArray(GridExperiment).replace("\"seed\": 5, \"ticks\": 40", "\"seed\": 6, \"ticks\": 41"));
+  const Sweep changed(experiment, {"--out", Path("t.csv"), "--resume"});
+  EXPECT_EQ(changed.status, 2);
+  EXPECT_NE(changed.err.str().find("belongs to another experiment (changed: seed, ticks)"), std::string::npos)
+      << changed.err.str();
+}
+
+// One sweep writes a table at a time; a second is refused naming it.
+TEST_F(SweepTest, ASecondSweepOnATableInUseIsRefused) {
+  const ExperimentParse parsed = ParseExperiment(GridExperiment);
+  ResultsFile held;
+  ASSERT_FALSE(held.Open(Path("t.csv").toStdString(), parsed.Result, {}, false));
+  const Sweep second(experiment, {"--out", Path("t.csv"), "--resume"});
+  EXPECT_EQ(second.status, 2);
+  EXPECT_NE(second.err.str().find("'" + Path("t.csv").toStdString() + "' is being written by another sweep"),
+            std::string::npos) << second.err.str();
+}
+
+// A full disk (here a file-size limit of 600 bytes, which the 12-row table
+// passes after about 8 rows) fails the sweep with 1; --resume then completes it.
+TEST_F(SweepTest, AFullDiskFailsTheSweepAndResumeCompletesIt) {
+  const QByteArray full = RunTable("full.csv", {});
+  ASSERT_GT(full.size(), 600);
+  rlimit was{};
+  ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &was), 0);
+  const auto handler = ::signal(SIGXFSZ, SIG_IGN);
+  rlimit limit = was;
+  limit.rlim_cur = 600;
+  ::setrlimit(RLIMIT_FSIZE, &limit);
+  const Sweep failed(experiment, {"--out", Path("t.csv")});
+  ::setrlimit(RLIMIT_FSIZE, &was);
+  ::signal(SIGXFSZ, handler);
+  EXPECT_EQ(failed.status, 1);
+  EXPECT_NE(failed.err.str().find("cannot write '" + Path("t.csv").toStdString() + "': File too large"),
+            std::string::npos) << failed.err.str();
+  const Sweep resumed(experiment, {"--out", Path("t.csv"), "--resume"});
+  EXPECT_EQ(resumed.status, 0) << resumed.err.str();
+  EXPECT_EQ(ReadAll(Path("t.csv")), full);
+}
+
+// merge joins shard tables into the single-machine table; a missing shard's
+// runs are named, and a table of another experiment is refused.
+TEST_F(SweepTest, MergeJoinsShardsCheckingEveryRunOnceAndOneExperiment) {
+  const QByteArray single = RunTable("all.csv", {});
+  RunTable("s1.csv", {"--shard", "1/3"});
+  RunTable("s2.csv", {"--shard", "2/3"});
+  RunTable("s3.csv", {"--shard", "3/3"});
+  const auto merge = [&](const QStringList& tables) {
+    std::vector<std::string> list{"keldor-sweep", "merge", Path("m.csv").toStdString()};
+    for (const QString& table : tables) list.push_back(Path(table).toStdString());
+    std::ostringstream out, err;
+    const int status = RunSweep(list, out, err, false);
+    return std::pair{status, err.str()};
+  };
+  EXPECT_EQ(merge({"s3.csv", "s1.csv", "s2.csv"}).first, 0);
+  EXPECT_EQ(ReadAll(Path("m.csv")), single);
+  QFile::remove(Path("m.csv"));
+  // Shard 2 of 3 holds runs 1, 4, 7 and 10.
+  EXPECT_EQ(merge({"s1.csv", "s3.csv"}), std::pair(2, std::string("keldor-sweep merge: 4 of 12 runs are missing: 1, 4, 7, 10\n")));
+  EXPECT_NE(merge({"s1.csv", "s2.csv", "s3.csv", "s1.csv"}).second.find("holds run 0, which an earlier row holds"),
+            std::string::npos);
+  Write(experiment, QByteArray(GridExperiment).replace("\"ticks\": 40", "\"ticks\": 30"));
+  RunTable("other.csv", {"--shard", "2/3"});
+  EXPECT_NE(merge({"s1.csv", "other.csv", "s3.csv"}).second.find("belongs to another experiment than"), std::string::npos);
+  EXPECT_FALSE(QFile::exists(Path("m.csv")));
 }
 
 }  // namespace

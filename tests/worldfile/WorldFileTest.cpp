@@ -7,6 +7,8 @@
 #include <filesystem>
 #include <fstream>
 #include <functional>
+#include <utility>
+#include <vector>
 
 #include <nlohmann/json.hpp>
 
@@ -35,7 +37,9 @@ Loaded Read(std::string_view text) {
 class WorldFileTest : public ::testing::Test {
  protected:
   WorldFileTest() {
-    saved_.world.Walls.Append() = WallObject{PlasterBrickType, 2, 3, 1, {WallShape{}, WallShape{}}};
+    const WallObject brick{PlasterBrickType, 2, 3, 1, {WallShape{}, WallShape{}}};
+    saved_.world.Walls.Append() = brick;
+    saved_.world.Cells(2, 3).Objects.Add(brick);
     resume_ = ResumeState{200, {1, 2, 3, UINT64_MAX}, 25069.5, 42};
     text_ = WorldFileText(saved_.world, saved_.window, resume_);
   }
@@ -72,7 +76,6 @@ TEST_F(WorldFileTest, BadFieldsAreRefusedNamingThem) {
   EXPECT_EQ(FaultAfter([](Json& s) { s["Seed"] = -1; }), "Seed: not null or a whole number from 0 to 2^64 - 1");
   EXPECT_EQ(FaultAfter([](Json& s) { s["RandomState"][2] = "12345678abcdefgh"; }),
             "RandomState: not four words of 16 hex digits");
-  EXPECT_EQ(FaultAfter([](Json& s) { s["CellSize"] = 1000; }).substr(0, 28), "CellFoodCapacity: must be 78");
   EXPECT_EQ(FaultAfter([](Json& s) { s["Walls"][0]["Shapes"][1]["Points"] = Json::array(); }),
             "Walls[0].Shapes[1].Points: holds 0 items where 5 are expected");
   EXPECT_EQ(FaultAfter([](Json& s) { s["Cells"][4]["Objects"] = Json::object(); }), "Cells[4].Objects: not a list");
@@ -80,6 +83,59 @@ TEST_F(WorldFileTest, BadFieldsAreRefusedNamingThem) {
   // The count is checked against the list before room is made for it.
   EXPECT_EQ(FaultAfter([](Json& s) { s["Nests"][0]["AntCount"] = 32767; }),
             "Nests[0].Ants: holds " + std::to_string(saved_.world.Nests[0].AntCount()) + " items where 32767 are expected");
+}
+
+// One edit per rule a world the program makes keeps. The saved world is New's
+// 30 x 30 grid (cells 2000 / 30 wide) with one nest of 30 living ants on cell
+// (15, 15), the 435th in the list, and a brick on cell (2, 3), the 33rd.
+TEST_F(WorldFileTest, WorldsTheProgramCannotMakeAreRefusedNamingTheRule) {
+  const std::string outside = "outside the world";
+  const std::string noFood = "not from 0 to a cell's food capacity";
+  const std::vector<std::pair<std::function<void(Json&)>, std::string>> cases = {
+      {[](Json& s) { s["CellSize"] = 0.5; }, "CellSize: not 2000 / GridX, the cell size New makes"},
+      {[](Json& s) { s["ScaleY"] = 5; }, "ScaleY: not 10, the scale New makes"},
+      {[](Json& s) { s["Nests"][0]["Ants"][1]["HeadX"] = 2500; }, "Nests[0].Ants[1].HeadX: " + outside},
+      {[](Json& s) { s["Nests"][0]["Ants"][2]["HeadY"] = -32768; }, "Nests[0].Ants[2].HeadY: " + outside},
+      {[](Json& s) { s["Nests"][0]["Ants"][0]["RearX"] = s["Nests"][0]["Ants"][0]["RearX"].get<double>() + 1; },
+       "Nests[0].Ants[0].RearX: not the ant's length from its head"},
+      {[](Json& s) { s["Nests"][0]["Ants"][4]["Length"] = 0; },
+       "Nests[0].Ants[4].Length: not above 0 and at most the radius of a new nest"},
+      {[](Json& s) { s["Population"] = 0; }, "Population: 0 where the nests hold 30 living ants"},
+      {[](Json& s) { s["Population"] = 32767; }, "Population: 32767 where the nests hold 30 living ants"},
+      {[](Json& s) { s["NestCount"] = 0; s["Nests"] = Json::array(); },
+       "Population: 30 where the nests hold 0 living ants"},
+      {[](Json& s) { s["Cells"][434]["AntCount"] = 29; }, "Cells[434].AntCount: 29 where 30 living ants stand on cell (15, 15)"},
+      {[](Json& s) { s["Cells"][435]["AntCount"] = 1; }, "Cells[435].AntCount: 1 where 0 living ants stand on cell (15, 16)"},
+      {[](Json& s) { s["WallCount"] = 0; s["Walls"] = Json::array(); },
+       "Cells[32].Objects: not the 0 walls that Walls puts on cell (2, 3)"},
+      {[](Json& s) { s["Cells"][32]["ObjectCount"] = 0; s["Cells"][32]["Objects"] = Json::array(); },
+       "Cells[32].Objects: not the 1 walls that Walls puts on cell (2, 3)"},
+      {[](Json& s) { s["Cells"][31]["Y"] = 3; }, "Cells[31].Y: not a whole number from 2 to 2"},
+      {[](Json& s) { s["Cells"][0]["Food"] = -1; }, "Cells[0].Food: " + noFood},
+      // A cell holds pi x (2000 / 30 / 2 x 10)^2 = 349065.85 at most.
+      {[](Json& s) { s["FoodPiles"][0]["Amount"] = 349066; }, "FoodPiles[0].Amount: " + noFood},
+      {[](Json& s) { s["Nests"][0]["FoodStore"] = -0.5; }, "Nests[0].FoodStore: below 0"},
+      {[](Json& s) { s["Nests"][0]["Ants"][3]["Load"] = -1; }, "Nests[0].Ants[3].Load: below 0"},
+      {[](Json& s) { s["Nests"][0]["LifeSpan"] = 101; }, "Nests[0].LifeSpan: not a whole number from 1 to 100"},
+      {[](Json& s) { s["LifeSpan"] = 0; }, "LifeSpan: not a whole number from 1 to 100"},
+      {[](Json& s) { s["FoodRate"] = -1; }, "FoodRate: not a whole number from 0 to 100"},
+      {[](Json& s) { s["AntGreen"] = 256; }, "AntGreen: not a whole number from 0 to 255"},
+      {[](Json& s) { s["NestScentMax"] = 0; }, "NestScentMax: not a whole number from 1 to 500"},
+      {[](Json& s) { s["FoodTraceSetting"] = 501; }, "FoodTraceSetting: not a whole number from 0 to 500"},
+      {[](Json& s) { s["AntSizeMm"] = -1; }, "AntSizeMm: not above 0 and at most the radius of a new nest"},
+      // A 30-cell grid's nest radius is 2000 / 30 / 2 x 10 twips: 5.88 mm, shown as 5.9.
+      {[](Json& s) { s["AntSizeMm"] = 5.95; }, "AntSizeMm: not above 0 and at most the radius of a new nest"},
+      {[](Json& s) { s["ZoomX"] = 1e300; }, "ZoomX: not a whole number from 2 to 32767, a zoom the zoom buttons reach"},
+      {[](Json& s) { s["ZoomX"] = 10.5; }, "ZoomX: not a whole number from 2 to 32767, a zoom the zoom buttons reach"},
+      {[](Json& s) { s["ZoomY"] = 11; }, "ZoomY: not ZoomX: the zoom buttons change both alike"},
+  };
+  for (const auto& [edit, fault] : cases) EXPECT_EQ(FaultAfter(edit), fault);
+  // The largest ant the dialog keeps on this grid is still read.
+  EXPECT_EQ(FaultAfter([](Json& s) { s["AntSizeMm"] = 5.9; }), "(read)");
+  // A key given twice would let the last one win unseen.
+  std::string twice = text_;
+  twice.insert(1, "\"Tick\": 5,");
+  EXPECT_EQ(Read(twice).fault, "Tick: given twice");
 }
 
 TEST_F(WorldFileTest, HostileDocumentsAreRefusedWithoutBuildingThem) {

@@ -99,11 +99,14 @@ int RunHeadless(const std::vector<std::string>& arguments, std::ostream& out, st
   const std::chrono::duration<double> elapsed = std::chrono::steady_clock::now() - start;
   if (frameFault) return Fail(err, *frameFault, ExitWriteFailed);
   if (const int signal = InterruptingSignal()) {
-    return Fail(err, "interrupted after tick " + std::to_string(lastRun) + "; no file was replaced", ExitInterrupted + signal);
+    // Frames are written as their ticks run; the other files only at the end.
+    const std::string replaced = files.WritesFrames() ? "only the frames up to it were written" : "no file was replaced";
+    return Fail(err, "interrupted after tick " + std::to_string(lastRun) + "; " + replaced, ExitInterrupted + signal);
   }
 
-  if (QSaveFile* json = files.Json()) json->write(QByteArray::fromStdString(simulation.SaveText(window)));
-  if (QSaveFile* png = files.Png()) views->Frame().save(png, "PNG");
+  // A failed write is reported by Commit, which then replaces nothing.
+  if (ReplacingFile* json = files.Json()) json->Write(simulation.SaveText(window));
+  if (ReplacingFile* png = files.Png()) WritePng(*png, views->Frame());
   if (const auto fault = files.Commit()) return Fail(err, *fault, ExitWriteFailed);
   PrintSummary(out, world, options.Ticks, elapsed.count());
   return ExitOk;

@@ -10,10 +10,12 @@
 #include <vector>
 
 #include <QFile>
-#include <QSaveFile>
+#include <QString>
 
 #include "app/headless/HeadlessRun.h"
+#include "app/headless/ReplacingFile.h"
 #include "app/sweep/ExperimentCheck.h"
+#include "app/sweep/MergeTables.h"
 #include "app/sweep/ProgressBar.h"
 #include "app/sweep/ResultsFile.h"
 #include "app/sweep/SweepOptions.h"
@@ -28,6 +30,8 @@ using headless::ExitWriteFailed;
 namespace {
 
 constexpr const char* ProgramName = "keldor-sweep";
+// An experiment file is a few lines; a larger file is refused before it is read.
+constexpr qint64 MaxExperimentBytes = qint64{16} << 20;
 
 int Fail(std::ostream& err, const std::string& message, int status) {
   err << ProgramName << ": " << message << std::endl;
@@ -35,10 +39,19 @@ int Fail(std::ostream& err, const std::string& message, int status) {
 }
 
 // A run's series table beside the results: results.csv -> results-run-000012.csv.
-QString SeriesPath(const std::string& out, int64_t run) {
+std::string SeriesPath(const std::string& out, int64_t run) {
   const QString outPath = QString::fromStdString(out);
   const QString base = outPath.endsWith(".csv") ? outPath.chopped(4) : outPath;
-  return base + QString("-run-%1.csv").arg(run, 6, 10, QChar('0'));
+  return (base + QString("-run-%1.csv").arg(run, 6, 10, QChar('0'))).toStdString();
+}
+
+// Whether a done run's series table is there whole: its header and a row
+// for every `every`-th tick, each line ended.
+bool SeriesComplete(const std::string& path, const Experiment& experiment) {
+  QFile file(QString::fromStdString(path));
+  if (headless::NotARegularFile(path) || !file.open(QIODevice::ReadOnly)) return false;
+  const QByteArray text = file.readAll();
+  return text.endsWith('\n') && text.count('\n') == 1 + experiment.Ticks / experiment.Every;
 }
 
 struct FinishedRun {
@@ -54,11 +67,15 @@ FinishedRun Execute(const Experiment& experiment, const std::string& outPath, in
   const RunOutcome outcome = RunOne(plan.Options, experiment.Every);
   if (outcome.Error) return {"", "", "run " + std::to_string(run) + ": " + *outcome.Error, ExitBadArguments};
   if (experiment.Every > 0) {
-    QSaveFile series(SeriesPath(outPath, run));
-    if (!series.open(QIODevice::WriteOnly) || series.write(outcome.Series.data(), outcome.Series.size()) < 0 ||
-        !series.commit()) {
-      return {"", "", "writing '" + series.fileName().toStdString() + "' failed", ExitWriteFailed};
+    // The series is on disk whole before the run's row is written.
+    const std::string path = SeriesPath(outPath, run);
+    headless::ReplacingFile series;
+    std::optional<std::string> problem = series.Open(path);
+    if (!problem) {
+      series.Write(outcome.Series);
+      problem = series.Commit();
     }
+    if (problem) return {"", "", "cannot write '" + path + "': " + *problem, ExitWriteFailed};
   }
   return {ResultsRow(plan, outcome.LastRow), outcome.Messages, "", ExitOk};
 }
@@ -97,6 +114,9 @@ void RunPool(const Experiment& experiment, const std::string& outPath, const std
 }  // namespace
 
 int RunSweep(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& err, bool errIsTerminal) {
+  if (arguments.size() >= 2 && arguments[1] == "merge") {
+    return MergeTables({arguments.begin() + 2, arguments.end()}, out, err);
+  }
   const ParsedSweepArguments parsed =
       ParseSweepArguments(arguments, static_cast<int>(std::thread::hardware_concurrency()));
   if (parsed.Result == ParsedSweepArguments::Outcome::Help || parsed.Result == ParsedSweepArguments::Outcome::Version) {
@@ -108,6 +128,14 @@ int RunSweep(const std::vector<std::string>& arguments, std::ostream& out, std::
 
   const std::string experimentName = "'" + options.ExperimentPath + "'";
   QFile experimentFile(QString::fromStdString(options.ExperimentPath));
+  // A device or FIFO could block or never end; a huge file is no experiment.
+  if (auto problem = headless::NotARegularFile(options.ExperimentPath)) {
+    return Fail(err, "cannot read " + experimentName + ": " + *problem, ExitBadArguments);
+  }
+  if (experimentFile.size() > MaxExperimentBytes) {
+    return Fail(err, "cannot read " + experimentName + ": larger than " + std::to_string(MaxExperimentBytes) + " bytes",
+                ExitBadArguments);
+  }
   if (!experimentFile.open(QIODevice::ReadOnly)) {
     return Fail(err, "cannot read " + experimentName + ": " + experimentFile.errorString().toStdString(),
                 ExitBadArguments);
@@ -119,8 +147,16 @@ int RunSweep(const std::vector<std::string>& arguments, std::ostream& out, std::
   if (auto problem = CheckExperiment(e)) return Fail(err, experimentName + ": " + *problem, ExitBadArguments);
 
   ResultsFile results;
-  if (auto problem = results.Open(QString::fromStdString(options.OutPath), ResultsHeader(e), options.Resume)) {
-    return Fail(err, *problem, ExitBadArguments);
+  if (auto refusal = results.Open(options.OutPath, e, {options.ShardIndex - 1, options.ShardCount}, options.Resume)) {
+    return Fail(err, refusal->Message, refusal->Status);
+  }
+  // A run counts as done only with its series table whole.
+  for (const int64_t run : results.DoneRuns()) {
+    if (e.Every > 0 && !SeriesComplete(SeriesPath(options.OutPath, run), e)) {
+      return Fail(err, "--resume: the series table of run " + std::to_string(run) + " ('" + SeriesPath(options.OutPath, run) +
+                           "') is missing or cut short; remove its row from '" + options.OutPath + "' to run it again",
+                  ExitBadArguments);
+    }
   }
   std::vector<int64_t> pending;
   int64_t inShard = 0;
@@ -140,9 +176,9 @@ int RunSweep(const std::vector<std::string>& arguments, std::ostream& out, std::
       status = Fail(err, finished.Error, finished.Status);
       return false;
     }
-    if (!results.Append(finished.Row)) {
+    if (auto problem = results.Append(finished.Row)) {
       progress.Clear();
-      status = Fail(err, "--out: writing '" + options.OutPath + "' failed", ExitWriteFailed);
+      status = Fail(err, "--out: cannot write '" + options.OutPath + "': " + *problem, ExitWriteFailed);
       return false;
     }
     if (!finished.Messages.empty()) {
@@ -153,6 +189,9 @@ int RunSweep(const std::vector<std::string>& arguments, std::ostream& out, std::
     return true;
   });
   if (status != ExitOk) return status;
+  if (auto problem = results.Finish()) {
+    return Fail(err, "--out: cannot write '" + options.OutPath + "': " + *problem, ExitWriteFailed);
+  }
   const std::chrono::duration<double> elapsed = std::chrono::steady_clock::now() - start;
   out << ProgramName << ": " << written << " runs of " << inShard << " in this shard (" << inShard - written
       << " already done), " << std::fixed << std::setprecision(1) << elapsed.count() << " s" << std::endl;

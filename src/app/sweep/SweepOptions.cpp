@@ -17,7 +17,9 @@ constexpr const char* Usage = "keldor-sweep [options] EXPERIMENT";
 constexpr const char* Description =
     "Runs every combination of an experiment's varied keldor-headless options, each\n"
     "repeated with seeds seed, seed + 1, ..., and writes one row of last-tick totals per run.\n"
-    "EXPERIMENT is a JSON file.";
+    "EXPERIMENT is a JSON file. The table's experiment is kept beside it in TABLE.experiment.\n"
+    "keldor-sweep merge OUT TABLE... joins the tables of a sharded sweep into OUT, checking\n"
+    "that they come from one experiment and hold every run exactly once.";
 
 // "I/N" with 1 <= I <= N <= MaxRuns.
 bool ReadShard(const std::string& text, SweepOptions& o) {

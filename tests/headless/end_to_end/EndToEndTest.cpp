@@ -7,6 +7,9 @@
 #include <QTemporaryDir>
 #include <QThread>
 
+#include <sys/resource.h>
+#include <sys/stat.h>
+
 #include <csignal>
 
 namespace {
@@ -20,6 +23,20 @@ struct Finished {
 Finished RunProgram(const QStringList& arguments, const QProcessEnvironment& environment = QProcessEnvironment::systemEnvironment()) {
   QProcess p;
   p.setProcessEnvironment(environment);
+  p.start(KELDOR_HEADLESS_EXECUTABLE, arguments);
+  const bool finished = p.waitForFinished(120000);
+  return {finished, p.exitStatus() == QProcess::CrashExit, p.exitCode(), p.readAllStandardOutput(),
+          p.readAllStandardError()};
+}
+
+// The program as run with a file-size limit, the way a full disk refuses writes.
+Finished RunWithFileLimit(const QStringList& arguments, rlim_t bytes) {
+  QProcess p;
+  p.setChildProcessModifier([bytes] {
+    ::signal(SIGXFSZ, SIG_IGN);
+    const rlimit limit{bytes, bytes};
+    ::setrlimit(RLIMIT_FSIZE, &limit);
+  });
   p.start(KELDOR_HEADLESS_EXECUTABLE, arguments);
   const bool finished = p.waitForFinished(120000);
   return {finished, p.exitStatus() == QProcess::CrashExit, p.exitCode(), p.readAllStandardOutput(),
@@ -69,6 +86,49 @@ TEST(EndToEndTest, ResumedRunEqualsTheStraightRunAndAnInterruptedRunReplacesNoFi
   EXPECT_EQ(ReadAll(straight), ReadAll(dir.filePath("kept")));
   EXPECT_TRUE(ReadAll(csv).isEmpty());
   EXPECT_EQ(QDir(dir.path()).entryList(QDir::Files).size(), 5) << "a temporary file stayed behind";
+}
+
+// A write the disk refuses fails the run with 1 and leaves the earlier file:
+// a world file is about 270 KB, 2000 CSV rows over 64 KB, a frame or picture over 1 KB.
+TEST(EndToEndTest, AFullDiskFailsTheRunAndKeepsTheEarlierFile) {
+  QTemporaryDir dir;
+  const QString earlier = dir.filePath("out");
+  const std::vector<std::pair<QStringList, rlim_t>> cases = {
+      {{"--json", earlier}, 65536}, {{"--csv", earlier}, 65536}, {{"--png", earlier}, 1024},
+      {{"--frames", dir.path(), "--every", "100"}, 1024}};
+  for (const auto& [outputs, limit] : cases) {
+    const QString kept = outputs[0] == "--frames" ? dir.filePath("frame-000100.png") : earlier;
+    QFile file(kept);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write("earlier") == 7);
+    file.close();
+    const Finished run = RunWithFileLimit(QStringList{"--seed", "1", "--ticks", "2000"} + outputs, limit);
+    EXPECT_EQ(run.status, 1) << outputs[0].toStdString() << run.err.toStdString();
+    EXPECT_TRUE(run.err.contains(outputs[0].toUtf8() + ": cannot write")) << run.err.toStdString();
+    EXPECT_EQ(ReadAll(kept), "earlier") << outputs[0].toStdString();
+    QFile::remove(kept);
+  }
+  EXPECT_EQ(QDir(dir.path()).entryList(QDir::Files).size(), 0) << "a temporary file stayed behind";
+}
+
+// Outputs are regular files: a FIFO, a folder or the input world is refused
+// with 2 before the first tick and stays what it was.
+TEST(EndToEndTest, AnOutputThatIsNoRegularFileOrTheInputIsRefused) {
+  QTemporaryDir dir;
+  const QString fifo = dir.filePath("fifo"), world = dir.filePath("in.json");
+  ASSERT_EQ(::mkfifo(fifo.toLocal8Bit().constData(), 0600), 0);
+  ASSERT_EQ(RunProgram({"--seed", "1", "--ticks", "1", "--json", world}).status, 0);
+  const QByteArray saved = ReadAll(world);
+  const std::vector<QStringList> cases = {{"--csv", fifo}, {"--json", dir.path()}, {"--png", fifo},
+                                          {"--load", world, "--csv", world}, {"--json", world, "--frames", world},
+                                          {"--load", fifo}};
+  for (const QStringList& arguments : cases) {
+    const Finished run = RunProgram(QStringList{"--ticks", "1"} + arguments);
+    EXPECT_EQ(run.status, 2) << arguments.join(' ').toStdString();
+    EXPECT_FALSE(run.out.contains("ticks")) << run.out.toStdString();
+  }
+  struct stat status {};
+  EXPECT_TRUE(::stat(fifo.toLocal8Bit().constData(), &status) == 0 && S_ISFIFO(status.st_mode));
+  EXPECT_EQ(ReadAll(world), saved);
 }
 
 }  // namespace
