@@ -1,5 +1,7 @@
 #include "engine/Simulation.h"
 
+#include <cstdint>
+
 #include "model/WorldCreation.h"
 #include "worldfile/WindowRecord.h"
 #include "worldfile/WorldFile.h"
@@ -38,7 +40,8 @@ bool Simulation::Tick(TickPainter& painter, const TickInput& input) {
   RunTick(context_, painter, input);
   clock_.EndTick(ran);
   if (ran) {
-    ++ticks_;
+    // The count stops at the largest tick number rather than wrap.
+    if (ticks_ < INT64_MAX) ++ticks_;
   } else {
     random_.SetState(before);
   }

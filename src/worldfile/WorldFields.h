@@ -277,7 +277,7 @@ void DescribeWindow(Io& io, W& world, R& window, const Bounds& bounds) {
 
 template <class Io, Is<ResumeState> S>
 void Describe(Io& io, S& resume) {
-  io.Field("Tick", resume.Tick, {0, INT64_C(1) << 53});
+  io.Field("Tick", resume.Tick, {0, INT64_MAX});
   io.Field("RandomState", resume.Random);
   io.Nullable("ClockTime", resume.ClockTime,
               NumberCheck{[](double t) { return t >= 0 && t < SecondsPerDay; }, "not a time of day in seconds"});

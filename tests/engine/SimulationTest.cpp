@@ -88,6 +88,12 @@ TEST(SimulationTest, ARefusedFileChangesNothing) {
   ASSERT_FALSE(run.simulation.LoadText(other.simulation.SaveText(other.window), window).has_value());
   EXPECT_EQ(run.simulation.Ticks(), 9);
   EXPECT_EQ(run.simulation.SaveText(other.window), other.simulation.SaveText(other.window));
+  // A tick past 2^53 reads back exactly: 2^53 + 1 is not a double.
+  std::string late = other.simulation.SaveText(other.window);
+  late.replace(late.find("\"Tick\": 9,"), 11, "\"Tick\": 9007199254740993,");
+  ASSERT_FALSE(run.simulation.LoadText(late, window).has_value());
+  EXPECT_EQ(run.simulation.Ticks(), INT64_C(9007199254740993));
+  EXPECT_NE(run.simulation.SaveText(window).find("\"Tick\": 9007199254740993,"), std::string::npos);
 }
 
 }  // namespace

@@ -1,6 +1,8 @@
 #include "app/headless/HeadlessRun.h"
 
 #include <chrono>
+#include <cstdint>
+#include <string>
 #include <iomanip>
 #include <memory>
 #include <optional>
@@ -59,6 +61,10 @@ int RunHeadless(const std::vector<std::string>& arguments, std::ostream& out, st
   const auto problem = options.LoadPath.empty() ? BuildWorld(simulation, window, options)
                                                   : ContinueWorld(simulation, window, options);
   if (problem) return Fail(err, *problem, ExitBadArguments);
+  if (options.Ticks > INT64_MAX - simulation.Ticks()) {
+    return Fail(err, "--ticks: " + std::to_string(options.Ticks) + " ticks after tick " +
+                         std::to_string(simulation.Ticks()) + " pass the largest tick number", ExitBadArguments);
+  }
   World& world = simulation.TheWorld();
 
   OutputFiles files;
