@@ -14,7 +14,7 @@
 #include <QImage>
 
 #include "app/headless/HeadlessOptions.h"
-#include "app/headless/ReplacingFile.h"
+#include "worldfile/ReplacingFile.h"
 
 namespace keldor::headless {
 

@@ -6,7 +6,7 @@
 #include <sstream>
 
 #include "app/headless/HeadlessRun.h"
-#include "app/headless/ReplacingFile.h"
+#include "worldfile/ReplacingFile.h"
 #include "app/sweep/ExperimentRecord.h"
 #include "app/sweep/ResultsFile.h"
 
@@ -27,7 +27,7 @@ int Fail(std::ostream& err, const std::string& message, int status) {
 }
 
 std::optional<std::string> ReadText(const std::string& path, std::string& text) {
-  if (auto problem = headless::NotARegularFile(path)) return "cannot read '" + path + "': " + *problem;
+  if (auto problem = NotARegularFile(path)) return "cannot read '" + path + "': " + *problem;
   std::ifstream file(path, std::ios::binary);
   std::ostringstream read;
   if (!file || !(read << file.rdbuf())) return "cannot read '" + path + "'";
@@ -93,7 +93,7 @@ int MergeTables(const std::vector<std::string>& arguments, std::ostream& out, st
   std::string merged = ResultsHeader(experiment);
   for (const auto& [run, row] : rows) merged += row;
   for (const auto& [path, text] : {std::pair{ExperimentRecordPath(outPath), record->dump() + "\n"}, std::pair{outPath, merged}}) {
-    headless::ReplacingFile file;
+    ReplacingFile file;
     std::optional<std::string> problem = file.Open(path);
     if (!problem) {
       file.Write(text);

@@ -12,7 +12,7 @@
 #include <sstream>
 
 #include "app/headless/HeadlessRun.h"
-#include "app/headless/ReplacingFile.h"
+#include "worldfile/ReplacingFile.h"
 #include "app/headless/TickCsv.h"
 #include "app/sweep/ExperimentRecord.h"
 #include "sim/TickTotals.h"
@@ -115,7 +115,7 @@ std::optional<TableRefusal> ResultsFile::Open(const std::string& path, const Exp
                                               bool resume) {
   path_ = path;
   const std::string name = "'" + path + "'";
-  if (auto problem = headless::NotARegularFile(path)) return TableRefusal{"--out: " + name + ": " + *problem, ExitBadArguments};
+  if (auto problem = NotARegularFile(path)) return TableRefusal{"--out: " + name + ": " + *problem, ExitBadArguments};
   fd_ = ::open(path.c_str(), O_RDWR | O_CREAT | O_APPEND | O_CLOEXEC, 0666);
   if (fd_ < 0) return TableRefusal{"--out: cannot write " + name + ": " + SystemError(), ExitBadArguments};
   if (::flock(fd_, LOCK_EX | LOCK_NB) != 0) {
@@ -124,7 +124,7 @@ std::optional<TableRefusal> ResultsFile::Open(const std::string& path, const Exp
   struct stat status {};
   if (::fstat(fd_, &status) != 0) return TableRefusal{"--out: cannot read " + name + ": " + SystemError(), ExitBadArguments};
   if (status.st_size == 0) {
-    headless::ReplacingFile record;
+    ReplacingFile record;
     std::optional<std::string> problem = record.Open(ExperimentRecordPath(path));
     if (!problem) {
       record.Write(ExperimentRecord(experiment).dump() + "\n");

@@ -13,7 +13,7 @@
 #include <QString>
 
 #include "app/headless/HeadlessRun.h"
-#include "app/headless/ReplacingFile.h"
+#include "worldfile/ReplacingFile.h"
 #include "app/sweep/ExperimentCheck.h"
 #include "app/sweep/MergeTables.h"
 #include "app/sweep/ProgressBar.h"
@@ -49,7 +49,7 @@ std::string SeriesPath(const std::string& out, int64_t run) {
 // for every `every`-th tick, each line ended.
 bool SeriesComplete(const std::string& path, const Experiment& experiment) {
   QFile file(QString::fromStdString(path));
-  if (headless::NotARegularFile(path) || !file.open(QIODevice::ReadOnly)) return false;
+  if (NotARegularFile(path) || !file.open(QIODevice::ReadOnly)) return false;
   const QByteArray text = file.readAll();
   return text.endsWith('\n') && text.count('\n') == 1 + experiment.Ticks / experiment.Every;
 }
@@ -69,7 +69,7 @@ FinishedRun Execute(const Experiment& experiment, const std::string& outPath, in
   if (experiment.Every > 0) {
     // The series is on disk whole before the run's row is written.
     const std::string path = SeriesPath(outPath, run);
-    headless::ReplacingFile series;
+    ReplacingFile series;
     std::optional<std::string> problem = series.Open(path);
     if (!problem) {
       series.Write(outcome.Series);
@@ -129,7 +129,7 @@ int RunSweep(const std::vector<std::string>& arguments, std::ostream& out, std::
   const std::string experimentName = "'" + options.ExperimentPath + "'";
   QFile experimentFile(QString::fromStdString(options.ExperimentPath));
   // A device or FIFO could block or never end; a huge file is no experiment.
-  if (auto problem = headless::NotARegularFile(options.ExperimentPath)) {
+  if (auto problem = NotARegularFile(options.ExperimentPath)) {
     return Fail(err, "cannot read " + experimentName + ": " + *problem, ExitBadArguments);
   }
   if (experimentFile.size() > MaxExperimentBytes) {

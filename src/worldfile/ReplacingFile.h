@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-namespace keldor::headless {
+namespace keldor {
 
 class ReplacingFile {
  public:
@@ -42,4 +42,4 @@ class ReplacingFile {
 // a regular file. Nothing when it is a regular file or not there.
 std::optional<std::string> NotARegularFile(const std::string& path);
 
-}  // namespace keldor::headless
+}  // namespace keldor

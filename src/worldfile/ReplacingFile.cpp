@@ -1,4 +1,4 @@
-#include "app/headless/ReplacingFile.h"
+#include "worldfile/ReplacingFile.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -7,7 +7,7 @@
 #include <cerrno>
 #include <cstring>
 
-namespace keldor::headless {
+namespace keldor {
 
 namespace {
 
@@ -90,4 +90,4 @@ std::optional<std::string> ReplacingFile::Commit() {
   return std::nullopt;
 }
 
-}  // namespace keldor::headless
+}  // namespace keldor
