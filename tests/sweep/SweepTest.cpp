@@ -11,6 +11,7 @@
 #include <QTemporaryDir>
 
 #include "Version.h"
+#include "app/headless/FailureReport.h"
 #include "app/headless/HeadlessRun.h"
 #include "app/sweep/Experiment.h"
 #include "app/sweep/ResultsFile.h"
@@ -138,6 +139,9 @@ TEST_F(SweepTest, BadExperimentsAreRefusedNamingTheKeyOrValue) {
       {R"({"ticks": 1e400})", "number overflow"},
       {R"({"ticks": 5,})", "line 1, column 13"},
       {R"({"seed": 1})", "\"ticks\" is missing"},
+      // A huge key is named in a message of bounded length.
+      {R"({"ticks": 5, "options": {"xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx": 1}})",
+       "unknown option \"xxxxxxxxxx"},
   };
   for (const auto& c : cases) {
     Write(experiment, c.experiment);
@@ -145,6 +149,7 @@ TEST_F(SweepTest, BadExperimentsAreRefusedNamingTheKeyOrValue) {
     EXPECT_EQ(sweep.status, 2) << c.experiment;
     EXPECT_NE(sweep.err.str().find(c.message), std::string::npos) << c.experiment << "\n" << sweep.err.str();
     EXPECT_FALSE(QFile::exists(Path("bad.csv"))) << c.experiment;
+    EXPECT_LE(sweep.err.str().size(), std::string("keldor-sweep: ...\n").size() + headless::MaxShownMessage);
   }
   // A device is no experiment: refused before it is read, not read until memory runs out.
   const Sweep device("/dev/zero", {"--out", Path("bad.csv")});

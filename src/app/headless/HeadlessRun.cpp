@@ -7,6 +7,7 @@
 #include <memory>
 #include <optional>
 
+#include "app/headless/FailureReport.h"
 #include "app/headless/HeadlessOptions.h"
 #include "app/headless/Interruption.h"
 #include "app/headless/OutputFiles.h"
@@ -29,8 +30,7 @@ namespace {
 constexpr const char* ProgramName = "keldor-headless";
 
 int Fail(std::ostream& err, const std::string& message, int status) {
-  err << ProgramName << ": " << message << std::endl;
-  return status;
+  return ReportFailure(err, ProgramName, message, status);
 }
 
 void PrintSummary(std::ostream& out, const World& world, int64_t ticks, double seconds) {

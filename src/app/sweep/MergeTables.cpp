@@ -5,6 +5,7 @@
 #include <optional>
 #include <sstream>
 
+#include "app/headless/FailureReport.h"
 #include "app/headless/HeadlessRun.h"
 #include "worldfile/ReplacingFile.h"
 #include "app/sweep/ExperimentRecord.h"
@@ -22,8 +23,7 @@ namespace {
 constexpr size_t NamedRuns = 20;
 
 int Fail(std::ostream& err, const std::string& message, int status) {
-  err << "keldor-sweep merge: " << message << std::endl;
-  return status;
+  return headless::ReportFailure(err, "keldor-sweep merge", message, status);
 }
 
 std::optional<std::string> ReadText(const std::string& path, std::string& text) {

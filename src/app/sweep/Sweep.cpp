@@ -12,6 +12,7 @@
 #include <QFile>
 #include <QString>
 
+#include "app/headless/FailureReport.h"
 #include "app/headless/HeadlessRun.h"
 #include "worldfile/ReplacingFile.h"
 #include "app/sweep/ExperimentCheck.h"
@@ -34,8 +35,7 @@ constexpr const char* ProgramName = "keldor-sweep";
 constexpr qint64 MaxExperimentBytes = qint64{16} << 20;
 
 int Fail(std::ostream& err, const std::string& message, int status) {
-  err << ProgramName << ": " << message << std::endl;
-  return status;
+  return headless::ReportFailure(err, ProgramName, message, status);
 }
 
 // A run's series table beside the results: results.csv -> results-run-000012.csv.
