@@ -13,7 +13,7 @@ namespace keldor::headless {
 
 namespace {
 
-std::string Dashed(const OptionSpec& spec) { return "--" + spec.Name; }
+std::string Dashed(const OptionRow& row) { return "--" + row.Name; }
 
 ValueRead Fail(std::string message) { return {std::nullopt, std::move(message)}; }
 
@@ -58,20 +58,20 @@ std::optional<T> ParseNumber(std::string_view text) {
   }
 }
 
-ValueRead ReadWhole(const OptionSpec& spec, std::string_view text) {
+ValueRead ReadWhole(const OptionRow& row, std::string_view text) {
   const auto value = ParseNumber<int64_t>(text);
-  if (!value) return Fail(Dashed(spec) + ": '" + std::string(text) + "' is not a whole number");
-  return CheckWholeValue(spec, *value);
+  if (!value) return Fail(Dashed(row) + ": '" + std::string(text) + "' is not a whole number");
+  return CheckWholeValue(row, *value);
 }
 
-ValueRead ReadPair(const OptionSpec& spec, std::string_view text) {
+ValueRead ReadPair(const OptionRow& row, std::string_view text) {
   const size_t comma = text.find(',');
   if (comma == std::string_view::npos || text.find(',', comma + 1) != std::string_view::npos) {
-    return Fail(Dashed(spec) + ": '" + std::string(text) + "' is not two numbers A,B");
+    return Fail(Dashed(row) + ": '" + std::string(text) + "' is not two numbers A,B");
   }
-  const ValueRead a = ReadWhole(spec, Trimmed(text.substr(0, comma)));
+  const ValueRead a = ReadWhole(row, Trimmed(text.substr(0, comma)));
   if (!a.Value) return a;
-  const ValueRead b = ReadWhole(spec, Trimmed(text.substr(comma + 1)));
+  const ValueRead b = ReadWhole(row, Trimmed(text.substr(comma + 1)));
   if (!b.Value) return b;
   return {std::pair<int, int>(static_cast<int>(std::get<int64_t>(*a.Value)), static_cast<int>(std::get<int64_t>(*b.Value))),
           ""};
@@ -79,49 +79,49 @@ ValueRead ReadPair(const OptionSpec& spec, std::string_view text) {
 
 }  // namespace
 
-const OptionSpec* FindOption(const OptionTable& table, std::string_view name) {
-  for (const OptionSpec& spec : table) {
-    if (spec.Name == name) return &spec;
+const OptionRow* FindOption(const OptionTable& table, std::string_view name) {
+  for (const OptionRow& row : table) {
+    if (row.Name == name) return &row;
   }
   return nullptr;
 }
 
-ValueRead CheckWholeValue(const OptionSpec& spec, int64_t value) {
-  if (value < spec.Min || value > spec.Max) {
-    return Fail(Dashed(spec) + ": " + std::to_string(value) + " is outside " + std::to_string(spec.Min) + ".." +
-                std::to_string(spec.Max));
+ValueRead CheckWholeValue(const OptionRow& row, int64_t value) {
+  if (value < row.Min || value > row.Max) {
+    return Fail(Dashed(row) + ": " + std::to_string(value) + " is outside " + std::to_string(row.Min) + ".." +
+                std::to_string(row.Max));
   }
   return {value, ""};
 }
 
-ValueRead CheckPositiveValue(const OptionSpec& spec, double value, const std::string& shown) {
-  if (!std::isfinite(value)) return Fail(Dashed(spec) + ": '" + shown + "' is not a number");
-  if (!(value > 0)) return Fail(Dashed(spec) + ": " + shown + " must be above 0");
+ValueRead CheckPositiveValue(const OptionRow& row, double value, const std::string& shown) {
+  if (!std::isfinite(value)) return Fail(Dashed(row) + ": '" + shown + "' is not a number");
+  if (!(value > 0)) return Fail(Dashed(row) + ": " + shown + " must be above 0");
   return {value, ""};
 }
 
-ValueRead ReadValueText(const OptionSpec& spec, std::string_view text) {
-  switch (spec.Type) {
+ValueRead ReadValueText(const OptionRow& row, std::string_view text) {
+  switch (row.Type) {
     case ValueType::Flag:
       return {true, ""};
     case ValueType::Whole:
-      return ReadWhole(spec, text);
+      return ReadWhole(row, text);
     case ValueType::Unsigned:
       if (const auto value = ParseNumber<uint64_t>(text)) return {*value, ""};
-      return Fail(Dashed(spec) + ": '" + std::string(text) + "' is not a whole number from 0 to " +
+      return Fail(Dashed(row) + ": '" + std::string(text) + "' is not a whole number from 0 to " +
                   std::to_string(std::numeric_limits<uint64_t>::max()));
     case ValueType::Positive:
-      if (const auto value = ParseNumber<double>(text)) return CheckPositiveValue(spec, *value, std::string(text));
-      return Fail(Dashed(spec) + ": '" + std::string(text) + "' is not a number");
+      if (const auto value = ParseNumber<double>(text)) return CheckPositiveValue(row, *value, std::string(text));
+      return Fail(Dashed(row) + ": '" + std::string(text) + "' is not a number");
     case ValueType::Pair:
-      return ReadPair(spec, text);
+      return ReadPair(row, text);
     case ValueType::Path:
-      if (text.empty()) return Fail(Dashed(spec) + ": the file name is empty");
+      if (text.empty()) return Fail(Dashed(row) + ": the file name is empty");
       return {std::string(text), ""};
     case ValueType::Text:
       return {std::string(text), ""};
   }
-  return Fail(Dashed(spec) + ": unknown value type");
+  return Fail(Dashed(row) + ": unknown value type");
 }
 
 CommandLineRead ReadCommandLine(const OptionTable& table, const std::vector<std::string>& arguments) {
@@ -144,28 +144,28 @@ CommandLineRead ReadCommandLine(const OptionTable& table, const std::vector<std:
     }
     const size_t equals = argument.find('=');
     const std::string name = shortHelp ? "help" : argument.substr(2, equals == std::string::npos ? equals : equals - 2);
-    const OptionSpec* spec = FindOption(table, name);
-    if (spec == nullptr) {
+    const OptionRow* row = FindOption(table, name);
+    if (row == nullptr) {
       read.Error = "unknown option '" + name + "'";
       break;
     }
     std::string text;
-    if (spec->Type == ValueType::Flag) {
+    if (row->Type == ValueType::Flag) {
       if (equals != std::string::npos) read.Error = "--" + name + ": takes no value";
     } else if (equals != std::string::npos) {
       text = argument.substr(equals + 1);
     } else if (i + 1 < arguments.size()) {
       text = arguments[++i];
     } else {
-      read.Error = "--" + name + ": missing value " + spec->ValueName;
+      read.Error = "--" + name + ": missing value " + row->ValueName;
     }
     if (!read.Error.empty()) break;
-    const ValueRead value = ReadValueText(*spec, text);
+    const ValueRead value = ReadValueText(*row, text);
     if (!value.Value) {
       read.Error = value.Error;
       break;
     }
-    spec->Store(*value.Value);
+    row->Store(*value.Value);
     read.Given.push_back(name);
   }
   return read;
@@ -174,10 +174,10 @@ CommandLineRead ReadCommandLine(const OptionTable& table, const std::vector<std:
 std::string HelpText(std::string_view usage, std::string_view description, const OptionTable& table) {
   constexpr size_t HelpColumn = 24;
   std::string text = "Usage: " + std::string(usage) + "\n" + std::string(description) + "\n\nOptions:\n";
-  for (const OptionSpec& spec : table) {
-    std::string line = "  --" + spec.Name + (spec.ValueName.empty() ? "" : " " + spec.ValueName);
+  for (const OptionRow& row : table) {
+    std::string line = "  --" + row.Name + (row.ValueName.empty() ? "" : " " + row.ValueName);
     line += line.size() + 2 <= HelpColumn ? std::string(HelpColumn - line.size(), ' ') : "\n" + std::string(HelpColumn, ' ');
-    text += line + spec.Help + "\n";
+    text += line + row.Help + "\n";
   }
   return text;
 }

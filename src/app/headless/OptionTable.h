@@ -29,7 +29,7 @@ enum class ValueType {
 // double for Positive, a pair for Pair, the text for Path and Text.
 using OptionValue = std::variant<bool, int64_t, uint64_t, double, std::pair<int, int>, std::string>;
 
-struct OptionSpec {
+struct OptionRow {
   std::string Name;       // without its dashes
   ValueType Type = ValueType::Flag;
   std::string ValueName;  // "N", "X,Y", "FILE": the value in the help
@@ -41,9 +41,9 @@ struct OptionSpec {
   std::function<void(const OptionValue&)> Store;
 };
 
-using OptionTable = std::vector<OptionSpec>;
+using OptionTable = std::vector<OptionRow>;
 
-const OptionSpec* FindOption(const OptionTable& table, std::string_view name);
+const OptionRow* FindOption(const OptionTable& table, std::string_view name);
 
 // A checked value, or the message naming the option and the value.
 struct ValueRead {
@@ -52,10 +52,10 @@ struct ValueRead {
 };
 
 // Reads a value given as text (a command-line argument, a JSON string).
-ValueRead ReadValueText(const OptionSpec& spec, std::string_view text);
+ValueRead ReadValueText(const OptionRow& row, std::string_view text);
 // Checks a value given as a number; `shown` is how the message writes it.
-ValueRead CheckWholeValue(const OptionSpec& spec, int64_t value);
-ValueRead CheckPositiveValue(const OptionSpec& spec, double value, const std::string& shown);
+ValueRead CheckWholeValue(const OptionRow& row, int64_t value);
+ValueRead CheckPositiveValue(const OptionRow& row, double value, const std::string& shown);
 
 // The options of one command line, each value checked and stored in order.
 struct CommandLineRead {

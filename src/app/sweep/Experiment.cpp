@@ -22,12 +22,12 @@ class OptionsBuilder {
 
   // Stores an option an experiment may set; returns what is wrong, if anything.
   std::string Store(const std::string& name, const Json& value) {
-    const headless::OptionSpec* spec = headless::FindOption(table_, name);
-    if (spec == nullptr) return "unknown option \"" + name + "\"";
-    if (!spec->InExperiments) {
+    const headless::OptionRow* row = headless::FindOption(table_, name);
+    if (row == nullptr) return "unknown option \"" + name + "\"";
+    if (!row->InExperiments) {
       return "\"" + name + "\" is not set here (seed and ticks are top-level keys; the sweep writes its own files)";
     }
-    return StoreSpec(*spec, value);
+    return StoreSpec(*row, value);
   }
 
   // The top-level "ticks", checked as --ticks is.
@@ -37,9 +37,9 @@ class OptionsBuilder {
   std::optional<std::string> CheckCombinations() const { return headless::CheckCombinations(options_, given_); }
 
  private:
-  std::string StoreSpec(const headless::OptionSpec& spec, const Json& value) {
-    const JsonOptionRead read = StoreJsonOption(spec, value);
-    if (read.Given) given_.insert(spec.Name);
+  std::string StoreSpec(const headless::OptionRow& row, const Json& value) {
+    const JsonOptionRead read = StoreJsonOption(row, value);
+    if (read.Given) given_.insert(row.Name);
     return read.Error;
   }
 

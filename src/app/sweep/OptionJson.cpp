@@ -10,13 +10,13 @@ namespace {
 using headless::ValueRead;
 using headless::ValueType;
 
-std::string Takes(const headless::OptionSpec& spec) {
-  switch (spec.Type) {
+std::string Takes(const headless::OptionRow& row) {
+  switch (row.Type) {
     case ValueType::Flag: return "true or false";
     case ValueType::Whole:
     case ValueType::Unsigned:
     case ValueType::Positive: return "a number or a string";
-    default: return spec.Repeats ? "a string " + spec.ValueName + " or a list of them" : "a string " + spec.ValueName;
+    default: return row.Repeats ? "a string " + row.ValueName + " or a list of them" : "a string " + row.ValueName;
   }
 }
 
@@ -29,28 +29,28 @@ std::optional<int64_t> WholeNumber(const Json& value) {
   return static_cast<int64_t>(number);
 }
 
-ValueRead ReadNumber(const headless::OptionSpec& spec, const Json& value) {
+ValueRead ReadNumber(const headless::OptionRow& row, const Json& value) {
   const std::string shown = JsonText(value);
-  if (spec.Type == ValueType::Positive) return headless::CheckPositiveValue(spec, value.get<double>(), shown);
-  if (spec.Type == ValueType::Unsigned && value.is_number_unsigned()) return {value.get<uint64_t>(), ""};
+  if (row.Type == ValueType::Positive) return headless::CheckPositiveValue(row, value.get<double>(), shown);
+  if (row.Type == ValueType::Unsigned && value.is_number_unsigned()) return {value.get<uint64_t>(), ""};
   const auto whole = WholeNumber(value);
-  if (spec.Type == ValueType::Whole && whole) return headless::CheckWholeValue(spec, *whole);
-  if (spec.Type == ValueType::Unsigned && whole && *whole >= 0) return {static_cast<uint64_t>(*whole), ""};
-  return {std::nullopt, "--" + spec.Name + ": '" + shown + "' is not a whole number" +
-                            (spec.Type == ValueType::Unsigned
+  if (row.Type == ValueType::Whole && whole) return headless::CheckWholeValue(row, *whole);
+  if (row.Type == ValueType::Unsigned && whole && *whole >= 0) return {static_cast<uint64_t>(*whole), ""};
+  return {std::nullopt, "--" + row.Name + ": '" + shown + "' is not a whole number" +
+                            (row.Type == ValueType::Unsigned
                                  ? " from 0 to " + std::to_string(std::numeric_limits<uint64_t>::max())
                                  : "")};
 }
 
 // One scalar value of the option, or the reason it does not fit.
-ValueRead ReadScalar(const headless::OptionSpec& spec, const Json& value) {
-  if (spec.Type == ValueType::Flag) return {value.get<bool>(), ""};
-  if (value.is_string()) return headless::ReadValueText(spec, value.get<std::string>());
-  return ReadNumber(spec, value);
+ValueRead ReadScalar(const headless::OptionRow& row, const Json& value) {
+  if (row.Type == ValueType::Flag) return {value.get<bool>(), ""};
+  if (value.is_string()) return headless::ReadValueText(row, value.get<std::string>());
+  return ReadNumber(row, value);
 }
 
-bool Fits(const headless::OptionSpec& spec, const Json& value) {
-  switch (spec.Type) {
+bool Fits(const headless::OptionRow& row, const Json& value) {
+  switch (row.Type) {
     case ValueType::Flag: return value.is_boolean();
     case ValueType::Whole:
     case ValueType::Unsigned:
@@ -61,18 +61,18 @@ bool Fits(const headless::OptionSpec& spec, const Json& value) {
 
 }  // namespace
 
-JsonOptionRead StoreJsonOption(const headless::OptionSpec& spec, const Json& value) {
-  const bool list = spec.Repeats && value.is_array() && !value.empty();
+JsonOptionRead StoreJsonOption(const headless::OptionRow& row, const Json& value) {
+  const bool list = row.Repeats && value.is_array() && !value.empty();
   const Json single = Json::array({value});
   for (const Json& item : list ? value : single) {
-    if (!Fits(spec, item)) return {false, "\"" + spec.Name + "\" takes " + Takes(spec)};
+    if (!Fits(row, item)) return {false, "\"" + row.Name + "\" takes " + Takes(row)};
   }
   JsonOptionRead read;
   for (const Json& item : list ? value : single) {
-    const ValueRead scalar = ReadScalar(spec, item);
+    const ValueRead scalar = ReadScalar(row, item);
     if (!scalar.Value) return {false, scalar.Error};
-    if (spec.Type == ValueType::Flag && !std::get<bool>(*scalar.Value)) continue;
-    spec.Store(*scalar.Value);
+    if (row.Type == ValueType::Flag && !std::get<bool>(*scalar.Value)) continue;
+    row.Store(*scalar.Value);
     read.Given = true;
   }
   return read;

@@ -17,6 +17,6 @@ struct JsonOptionRead {
 };
 
 // Checks the value and stores it with the option's Store.
-JsonOptionRead StoreJsonOption(const headless::OptionSpec& spec, const Json& value);
+JsonOptionRead StoreJsonOption(const headless::OptionRow& row, const Json& value);
 
 }  // namespace keldor::sweep
