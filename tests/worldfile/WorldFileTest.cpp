@@ -80,6 +80,19 @@ TEST_F(WorldFileTest, BadFieldsAreRefusedNamingThem) {
             "Walls[0].Shapes[1].Points: holds 0 items where 5 are expected");
   EXPECT_EQ(FaultAfter([](Json& s) { s["Cells"][4]["Objects"] = Json::object(); }), "Cells[4].Objects: not a list");
   EXPECT_EQ(FaultAfter([](Json& s) { s["Nests"][0]["Ants"][1] = 3; }), "Nests[0].Ants[1]: not an object");
+  // Versions, ranges, presence, list lengths and formats, each named.
+  const std::pair<std::function<void(Json&)>, std::string> named[] = {
+      {[](Json& s) { s["FormatVersion"] = 2; }, "FormatVersion: not a whole number from 1 to 1"},
+      {[](Json& s) { s["GridX"] = 182; }, "GridX: not a whole number from 1 to 181"},
+      {[](Json& s) { s.erase("Running"); }, "Running: missing"},
+      {[](Json& s) { s["FoodPileCount"] = s["FoodPileCount"].get<int>() + 1; }, "FoodPiles: holds"},
+      {[](Json& s) { s["Cells"] = Json::array(); }, "Cells: holds 0 items where 900 are expected"},
+      {[](Json& s) { s["Nests"][0]["CellX"] = 31; }, "Nests[0].CellX: not a whole number from 1 to 30"},
+      {[](Json& s) { s["Nests"][0]["Signature"] = "0120"; }, "Nests[0].Signature: not a signature"},
+      {[](Json& s) { s["Nests"][0]["Colour"] = 16777216; }, "Nests[0].Colour: not a whole number from 0 to 16777215"},
+      {[](Json& s) { s["Nests"][0]["Ants"][3]["CellY"] = -1; }, "Nests[0].Ants[3].CellY: not a whole number from 0 to 31"},
+  };
+  for (const auto& [change, name] : named) EXPECT_EQ(FaultAfter(change).find(name), 0u) << FaultAfter(change);
   // The count is checked against the list before room is made for it.
   EXPECT_EQ(FaultAfter([](Json& s) { s["Nests"][0]["AntCount"] = 32767; }),
             "Nests[0].Ants: holds " + std::to_string(saved_.world.Nests[0].AntCount()) + " items where 32767 are expected");

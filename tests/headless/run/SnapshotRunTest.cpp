@@ -4,7 +4,6 @@
 
 #include <QDir>
 #include <QImage>
-#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTemporaryDir>
@@ -20,56 +19,12 @@ void Write(const QString& path, const QByteArray& text) {
   file.write(text);
 }
 
-TEST(SnapshotRunTest, DamagedFilesAndWorldOptionsAreRefusedNamingTheField) {
+TEST(SnapshotRunTest, DamagedFilesAndWorldOptionsAreRefused) {
   QTemporaryDir dir;
   const QString good = dir.filePath("good.json"), bad = dir.filePath("bad.json"), out = dir.filePath("out.json");
   ASSERT_EQ(InProcessRun({"--seed", "9", "--grid", "6", "--ticks", "5", "--wall", "2,2", "--json", good}).status, ExitOk);
-  const QJsonObject state = QJsonDocument::fromJson(ReadAll(good)).object();
-  const auto changed = [&](const std::function<void(QJsonObject&)>& change) {
-    QJsonObject copy = state;
-    change(copy);
-    return QJsonDocument(copy).toJson();
-  };
-  const auto inFirstNest = [](QJsonObject& s, const std::function<void(QJsonObject&)>& change) {
-    QJsonArray nests = s["Nests"].toArray();
-    QJsonObject nest = nests[0].toObject();
-    change(nest);
-    nests[0] = nest;
-    s["Nests"] = nests;
-  };
-  const std::pair<QByteArray, std::string> cases[] = {
-      {ReadAll(good).left(5000), "not a world state"},  // truncated
-      {changed([](QJsonObject& s) { s["FormatVersion"] = 2; }), "FormatVersion: not a whole number from 1 to 1"},
-      {changed([](QJsonObject& s) { s["GridX"] = 182; }), "GridX: not a whole number from 1 to 181"},
-      {changed([](QJsonObject& s) { s["NestCount"] = 32768; }), "NestCount: not a whole number from 0 to 32767"},
-      {changed([](QJsonObject& s) { s.remove("Running"); }), "Running: missing"},
-      {changed([](QJsonObject& s) { s["FoodPileCount"] = s["FoodPileCount"].toInt() + 1; }), "FoodPiles: holds"},
-      {changed([](QJsonObject& s) { s["Cells"] = QJsonArray(); }), "Cells: holds 0 items where 36 are expected"},
-      {changed([](QJsonObject& s) { s["RandomState"] = QJsonArray{"1", "2", "3", "4"}; }), "RandomState: not four"},
-      {changed([&](QJsonObject& s) { inFirstNest(s, [](QJsonObject& n) { n["CellX"] = 7; }); }),
-       "Nests[0].CellX: not a whole number from 1 to 6"},
-      {changed([&](QJsonObject& s) { inFirstNest(s, [](QJsonObject& n) { n["Signature"] = "0120"; }); }),
-       "Nests[0].Signature: not a signature"},
-      {changed([&](QJsonObject& s) { inFirstNest(s, [](QJsonObject& n) { n["Colour"] = 16777216; }); }),
-       "Nests[0].Colour: not a whole number from 0 to 16777215"},  // one past white, 2^24 - 1
-      {changed([&](QJsonObject& s) {
-         inFirstNest(s, [](QJsonObject& n) {
-           QJsonArray ants = n["Ants"].toArray();
-           QJsonObject ant = ants[3].toObject();
-           ant["CellY"] = -1;  // the ring around the world is row 0
-           ants[3] = ant;
-           n["Ants"] = ants;
-         });
-       }),
-       "Nests[0].Ants[3].CellY: not a whole number from 0 to 7"},
-      {changed([](QJsonObject& s) {
-         QJsonArray walls = s["Walls"].toArray();
-         QJsonObject wall = walls[0].toObject();
-         wall["Shapes"] = QJsonArray{};
-         walls[0] = wall;
-         s["Walls"] = walls;
-       }),
-       "Walls[0].Shapes: holds 0 items where 2 are expected"}};
+  // A damaged file is refused naming the fault (the reader's own tests name every rule).
+  const std::pair<QByteArray, std::string> cases[] = {{ReadAll(good).left(5000), "not a world state"}};
   for (const auto& [text, named] : cases) {
     Write(bad, text);
     const InProcessRun run({"--load", bad, "--ticks", "3", "--json", out});
