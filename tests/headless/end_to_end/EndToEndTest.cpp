@@ -110,8 +110,9 @@ TEST(EndToEndTest, AFullDiskFailsTheRunAndKeepsTheEarlierFile) {
   EXPECT_EQ(QDir(dir.path()).entryList(QDir::Files).size(), 0) << "a temporary file stayed behind";
 }
 
-// Outputs are regular files: a FIFO, a folder or the input world is refused
-// with 2 before the first tick and stays what it was.
+// Outputs are regular files that can be made, each named once: a FIFO, a
+// folder, the input world, a file named twice or a bad argument is refused
+// with 2 before the first tick, and every file stays what it was.
 TEST(EndToEndTest, AnOutputThatIsNoRegularFileOrTheInputIsRefused) {
   QTemporaryDir dir;
   const QString fifo = dir.filePath("fifo"), world = dir.filePath("in.json");
@@ -120,7 +121,9 @@ TEST(EndToEndTest, AnOutputThatIsNoRegularFileOrTheInputIsRefused) {
   const QByteArray saved = ReadAll(world);
   const std::vector<QStringList> cases = {{"--csv", fifo}, {"--json", dir.path()}, {"--png", fifo},
                                           {"--load", world, "--csv", world}, {"--json", world, "--frames", world},
-                                          {"--load", fifo}};
+                                          {"--load", fifo}, {"--json", world, "--csv", world},
+                                          {"--json", world, "--png", QDir(dir.path()).filePath("./in.json")},
+                                          {"--json", world, "--csv", "/nonexistent/t.csv"}, {"--json", world, "--every", "x"}};
   for (const QStringList& arguments : cases) {
     const Finished run = RunProgram(QStringList{"--ticks", "1"} + arguments);
     EXPECT_EQ(run.status, 2) << arguments.join(' ').toStdString();

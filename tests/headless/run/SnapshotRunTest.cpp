@@ -44,25 +44,6 @@ TEST(SnapshotRunTest, DamagedFilesAndWorldOptionsAreRefused) {
   EXPECT_FALSE(QFile::exists(out));
 }
 
-TEST(SafeOutputTest, FailedRunsLeaveEarlierFilesAsTheyWere) {
-  QTemporaryDir dir;
-  const QString out = dir.filePath("out"), run = dir.filePath("run.json");
-  const QByteArray earlier = "an earlier result\n";
-  const QStringList cases[] = {{"--json", out, "--csv", out},
-                               {"--json", out, "--png", QDir(dir.path()).filePath("./out")},
-                               {"--json", run, "--csv", "/nonexistent/t.csv"},
-                               {"--json", run, "--ticks", "x"}};
-  for (const QStringList& arguments : cases) {
-    Write(out, earlier);
-    Write(run, earlier);
-    const InProcessRun failed(QStringList{"--seed", "1", "--ticks", "2"} + arguments);
-    EXPECT_EQ(failed.status, ExitBadArguments) << arguments.join(' ').toStdString();
-    EXPECT_EQ(ReadAll(out), earlier) << failed.err.str();
-    EXPECT_EQ(ReadAll(run), earlier) << failed.err.str();
-    EXPECT_EQ(QDir(dir.path()).entryList(QDir::Files).size(), 2) << "a temporary file stayed behind";
-  }
-}
-
 TEST(FramesTest, EveryNthTickIsSavedAsTheFrameThatRunWouldEndOn) {
   QTemporaryDir dir;
   const QString frames = dir.filePath("frames");
